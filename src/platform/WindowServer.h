@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/Geometry.h"
+
+#include <cstdint>
+
+class QWidget;
+
+namespace platform {
+
+/// What the window system does with the program's own windows. Main thread only.
+class WindowServer {
+public:
+    virtual ~WindowServer() = default;
+
+    /// Turns a top-level widget that was not shown yet into a borderless window that floats above
+    /// ordinary ones on every desktop, has a shadow, cannot be moved by the user, and takes
+    /// neither the keyboard nor a grab, also when it is clicked.
+    virtual void makeFloating(QWidget& window) = 0;
+
+    virtual void setFrame(QWidget& window, const Rect& frame) = 0;
+    virtual Rect frame(const QWidget& window) = 0;
+
+    /// The frame of a part of a window, on the screen.
+    virtual Rect frameOnScreen(const QWidget& part) = 0;
+
+    /// Shows a window in front of the others without making it the key window.
+    virtual void orderFront(QWidget& window) = 0;
+    virtual void orderOut(QWidget& window) = 0;
+
+    /// Whether what a window leaves transparent shows what lies below it.
+    virtual bool hasTranslucency() = 0;
+
+    /// Turns the process into a menu-bar accessory: no icon among the running applications.
+    virtual void becomeAccessory() = 0;
+};
+
+} // namespace platform

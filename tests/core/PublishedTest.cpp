@@ -1,0 +1,59 @@
+#include "core/Published.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+using core::Published;
+using core::Registration;
+
+TEST(Published, TellsBeforeEachAssignmentAlsoWhenNothingChanges) {
+    Published<int> value(1);
+    std::vector<std::pair<int, int>> seen; // what comes, what is still there
+    const Registration observer =
+        value.observe([&](int coming) { seen.emplace_back(coming, value.get()); });
+    value = 2;
+    value = 2;
+    EXPECT_EQ(seen, (std::vector<std::pair<int, int>>{{2, 1}, {2, 2}}));
+    EXPECT_EQ(value.get(), 2);
+}
+
+TEST(Published, StopsTellingWhenTheRegistrationEnds) {
+    Published<int> value(0);
+    int calls = 0;
+    {
+        Registration first = value.observe([&](int) { ++calls; });
+        const Registration second = std::move(first);
+        value = 1;
+        EXPECT_EQ(calls, 1);
+    }
+    value = 2;
+    EXPECT_EQ(calls, 1);
+}
+
+TEST(Published, ObserversMayComeAndGoWhileTheyAreTold) {
+    Published<int> value(0);
+    std::vector<char> calls;
+    Registration late;
+    Registration second;
+    Registration first = value.observe([&](int) {
+        calls.push_back('a');
+        second.reset();
+        first.reset();
+        late = value.observe([&](int) { calls.push_back('c'); });
+    });
+    second = value.observe([&](int) { calls.push_back('b'); });
+    value = 1;
+    value = 2;
+    EXPECT_EQ(calls, (std::vector<char>{'a', 'c'}));
+}
+
+TEST(Published, ARegistrationMayOutliveItsValue) {
+    Registration observer;
+    {
+        Published<int> value(0);
+        observer = value.observe([](int) {});
+    }
+    observer.reset();
+    EXPECT_FALSE(observer);
+}

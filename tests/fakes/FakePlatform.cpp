@@ -1,0 +1,183 @@
+#include "fakes/FakePlatform.h"
+
+#include <QMenu>
+#include <QWidget>
+
+namespace fakes {
+
+namespace {
+
+struct FakeSource final : platform::EventSource {};
+
+struct FakeKeyEvent final : platform::KeyEvent {
+    PostedKey key;
+
+    void setFlags(std::uint64_t flags) override { key.flags = flags; }
+};
+
+/// Makes an implementation, puts it into the platform, and hands out the reference.
+template <typename Fake, typename Interface, typename... Arguments>
+Fake& put(std::unique_ptr<Interface>& slot, Arguments&&... arguments) {
+    auto fake = std::make_unique<Fake>(std::forward<Arguments>(arguments)...);
+    Fake& reference = *fake;
+    slot = std::move(fake);
+    return reference;
+}
+
+} // namespace
+
+bool FakeAccessibility::isProcessTrusted(platform::TrustPrompt prompt) {
+    trustQuestions.push_back(prompt);
+    return trusted;
+}
+
+platform::Accessibility::Element
+FakeAccessibility::applicationElement(platform::ProcessIdentifier) {
+    return std::make_shared<FakeElement>();
+}
+
+platform::Accessibility::Element FakeAccessibility::focusedElement(const Element&) {
+    ++calls;
+    return focusReadable ? std::make_shared<FakeElement>() : nullptr;
+}
+
+std::optional<QString> FakeAccessibility::selectedText(const Element&) {
+    ++calls;
+    return text;
+}
+
+platform::Accessibility::TextRange FakeAccessibility::selectedTextRange(const Element&) {
+    ++calls;
+    return rangeReadable ? std::make_shared<FakeTextRange>() : nullptr;
+}
+
+std::optional<platform::Rect> FakeAccessibility::boundsForRange(const Element&, const TextRange&) {
+    ++calls;
+    return bounds;
+}
+
+void FakeWorkspace::activate(const platform::RunningApplication& application) {
+    record.push_back("activate " + std::to_string(application.processIdentifier));
+}
+
+bool FakeWorkspace::openUrl(const QUrl& url) {
+    opened.push_back(url);
+    return true;
+}
+
+std::unique_ptr<platform::EventSource>
+FakeKeyboardEvents::createSource(platform::EventSourceState state) {
+    sources.push_back(state);
+    return std::make_unique<FakeSource>();
+}
+
+std::unique_ptr<platform::KeyEvent>
+FakeKeyboardEvents::createKeyEvent(const platform::EventSource*, platform::KeyCode key,
+                                   platform::KeyDirection direction) {
+    const bool possible =
+        direction == platform::KeyDirection::Down ? keyDownCanBeMade : keyUpCanBeMade;
+    if (!possible) {
+        return nullptr;
+    }
+    auto event = std::make_unique<FakeKeyEvent>();
+    event->key.keyCode = key;
+    event->key.direction = direction;
+    return event;
+}
+
+void FakeKeyboardEvents::post(const platform::KeyEvent& event, platform::EventTap tap) {
+    PostedKey key = static_cast<const FakeKeyEvent&>(event).key;
+    key.tap = tap;
+    key.time = runLoop.now();
+    posted.push_back(key);
+    record.push_back((key.direction == platform::KeyDirection::Down ? "key down " : "key up ") +
+                     std::to_string(key.keyCode));
+}
+
+std::optional<platform::DefaultsValue> FakeUserDefaults::object(const QString& key) const {
+    const auto found = values.find(key);
+    return found == values.end() ? std::nullopt : std::optional(found->second);
+}
+
+void FakeUserDefaults::set(const QString& key, const platform::DefaultsValue& value) {
+    values.insert_or_assign(key, value);
+    writes.push_back(key);
+}
+
+platform::LoginItem::Error FakeLoginItem::registerItem() {
+    requests.push_back(true);
+    return error;
+}
+
+platform::LoginItem::Error FakeLoginItem::unregisterItem() {
+    requests.push_back(false);
+    return error;
+}
+
+void FakeStatusItem::show(const QIcon& icon, const QString& accessibilityDescription, QMenu& m) {
+    hasIcon = !icon.isNull();
+    description = accessibilityDescription;
+    menu = &m;
+}
+
+void FakeWindowServer::makeFloating(QWidget& window) {
+    window.setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
+    window.setAttribute(Qt::WA_ShowWithoutActivating);
+    record.emplace_back("make floating");
+}
+
+void FakeWindowServer::setFrame(QWidget& window, const platform::Rect& frame) {
+    frames[&window] = frame;
+    window.setFixedSize(static_cast<int>(frame.width), static_cast<int>(frame.height));
+}
+
+platform::Rect FakeWindowServer::frame(const QWidget& window) {
+    return frames[&window];
+}
+
+platform::Rect FakeWindowServer::frameOnScreen(const QWidget& part) {
+    const platform::Rect whole = frames[part.window()];
+    const QPoint corner = part.mapTo(part.window(), QPoint(0, 0));
+    return {whole.x + corner.x(), whole.maxY() - corner.y() - part.height(),
+            static_cast<double>(part.width()), static_cast<double>(part.height())};
+}
+
+void FakeWindowServer::orderFront(QWidget& window) {
+    record.emplace_back("order front");
+    window.show();
+}
+
+void FakeWindowServer::orderOut(QWidget& window) {
+    record.emplace_back("order out");
+    window.hide();
+}
+
+QImage FakeSymbols::mask(const QString&, const platform::SymbolStyle& style,
+                         double devicePixelRatio) {
+    const int side = static_cast<int>(style.pointSize * devicePixelRatio);
+    QImage image(side, side, QImage::Format_Alpha8);
+    image.fill(255);
+    image.setDevicePixelRatio(devicePixelRatio);
+    return image;
+}
+
+FakePlatform::FakePlatform()
+    : runLoop(put<VirtualRunLoop>(platform.runLoop))
+    , systemInfo(put<FakeSystemInfo>(platform.systemInfo))
+    , userDefaults(put<FakeUserDefaults>(platform.userDefaults))
+    , loginItem(put<FakeLoginItem>(platform.loginItem))
+    , screens(put<FakeScreens>(platform.screens))
+    , symbols(put<FakeSymbols>(platform.symbols))
+    , windowServer(put<FakeWindowServer>(platform.windowServer, record))
+    , workspace(put<FakeWorkspace>(platform.workspace, record))
+    , accessibility(put<FakeAccessibility>(platform.accessibility))
+    , keyboardEvents(put<FakeKeyboardEvents>(platform.keyboardEvents, record, runLoop))
+    , globalKeyMonitor(put<FakeGlobalKeyMonitor>(platform.globalKeyMonitor))
+    , pointerMonitor(put<FakePointerMonitor>(platform.pointerMonitor))
+    , colorPanel(put<FakeColorPanel>(platform.colorPanel))
+    , statusItem(put<FakeStatusItem>(platform.statusItem))
+    , alerts(put<FakeAlerts>(platform.alerts))
+    , updater(put<FakeUpdater>(platform.updater))
+    , current_(platform) {}
+
+} // namespace fakes
