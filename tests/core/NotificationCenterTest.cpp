@@ -6,8 +6,7 @@ TEST(NotificationCenter, DeliversByNameForAsLongAsTheObserverIsRegistered) {
     core::NotificationCenter center;
     int shown = 0;
     int other = 0;
-    core::Registration observer =
-        center.addObserver(QStringLiteral("show"), [&shown] { ++shown; });
+    core::Registration observer = center.addObserver(QStringLiteral("show"), [&shown] { ++shown; });
     const auto otherObserver = center.addObserver(QStringLiteral("other"), [&other] { ++other; });
     center.post(QStringLiteral("show"));
     center.post(QStringLiteral("nobody listens"));

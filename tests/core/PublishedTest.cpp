@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
 #include <vector>
 
 using core::Published;
@@ -16,6 +17,16 @@ TEST(Published, TellsBeforeEachAssignmentAlsoWhenNothingChanges) {
     value = 2;
     EXPECT_EQ(seen, (std::vector<std::pair<int, int>>{{2, 1}, {2, 2}}));
     EXPECT_EQ(value.get(), 2);
+}
+
+TEST(Published, ItsOwnerActsAfterEachAssignmentWithTheNewValue) {
+    std::vector<std::string> events;
+    Published<int> value(1, [&](int now) { events.push_back("stored " + std::to_string(now)); });
+    const Registration observer =
+        value.observe([&](int) { events.push_back("told at " + std::to_string(value)); });
+    Published<int>& binding = value;
+    binding.set(2);
+    EXPECT_EQ(events, (std::vector<std::string>{"told at 1", "stored 2"}));
 }
 
 TEST(Published, StopsTellingWhenTheRegistrationEnds) {
