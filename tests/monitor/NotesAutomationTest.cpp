@@ -1,0 +1,176 @@
+#include "monitor/NotesAutomation.h"
+
+#include "fakes/FakePlatform.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <limits>
+
+using bar::TextFormat;
+using monitor::NotesAutomation;
+using monitor::Shortcut;
+using platform::Point;
+using testing::DoubleNear;
+using testing::ElementsAre;
+using testing::internal::CaptureStdout;
+using testing::internal::GetCapturedStdout;
+
+namespace {
+
+class NotesAutomationTest : public testing::Test {
+protected:
+    NotesAutomationTest() { NotesAutomation::targetApplication = target(); }
+    ~NotesAutomationTest() override {
+        NotesAutomation::targetApplication.reset();
+        NotesAutomation::colorPanelPosition = {};
+    }
+
+    static platform::RunningApplication target() {
+        platform::RunningApplication application;
+        application.processIdentifier = 42;
+        return application;
+    }
+
+    /// Opens the colours with the position set and answers where the panel went.
+    Point placed(Point wanted) {
+        NotesAutomation::colorPanelPosition = wanted;
+        NotesAutomation::showColorPicker();
+        platform.runLoop.advance(0.3);
+        return platform.colorPanel.origins.back();
+    }
+
+    fakes::FakePlatform platform;
+};
+
+using NotesAutomationDeathTest = NotesAutomationTest;
+
+/// US keyboard: what the virtual key codes carry there, written down apart from the tables.
+std::int64_t keyLabelled(char label) {
+    static const std::map<char, std::int64_t> codes{
+        {'B', 0x0B}, {'I', 0x22}, {'U', 0x20}, {'X', 0x07}, {'M', 0x2E}, {'T', 0x11},
+        {'K', 0x28}, {'7', 0x1A}, {'8', 0x1C}, {'9', 0x19}, {'L', 0x25}, {'\'', 0x27},
+        {';', 0x29}, {'/', 0x2C}, {']', 0x1E}, {'H', 0x04}, {'J', 0x26}, {'C', 0x08},
+    };
+    return codes.at(label);
+}
+
+Shortcut command(char label) {
+    return {keyLabelled(label), 1U << 20};
+}
+
+Shortcut commandShift(char label) {
+    return {keyLabelled(label), (1U << 20) | (1U << 17)};
+}
+
+} // namespace
+
+TEST_F(NotesAutomationTest, EveryFormatAndHeadingLevelHasItsShortcut) {
+    const std::vector<std::pair<TextFormat, Shortcut>> formats{
+        {TextFormat::Bold, command('B')},
+        {TextFormat::Italic, command('I')},
+        {TextFormat::Underline, command('U')},
+        {TextFormat::Strikethrough, commandShift('X')},
+        {TextFormat::Monospaced, commandShift('M')},
+        {TextFormat::Heading, commandShift('T')},
+        {TextFormat::Link, command('K')},
+        {TextFormat::BulletList, commandShift('7')},
+        {TextFormat::DashedList, commandShift('8')},
+        {TextFormat::NumberedList, commandShift('9')},
+        {TextFormat::Checklist, commandShift('L')},
+        {TextFormat::IncreaseIndent, command('\'')},
+        {TextFormat::DecreaseIndent, command(';')},
+        {TextFormat::DecreaseTextSize, command('/')},
+        {TextFormat::IncreaseTextSize, command(']')},
+        {TextFormat::RemoveFormatting, commandShift('B')},
+    };
+    ASSERT_EQ(formats.size(), bar::allTextFormats.size());
+    for (const auto& [format, shortcut] : formats) {
+        EXPECT_EQ(NotesAutomation::formatShortcut(format), shortcut)
+            << bar::rawValue(format).toStdString();
+    }
+
+    constexpr auto smallest = std::numeric_limits<bar::HeadingLevel>::min();
+    const std::vector<std::pair<bar::HeadingLevel, char>> levels{
+        {1, 'T'}, {2, 'H'}, {3, 'J'}, {0, 'B'}, {4, 'B'}, {-1, 'B'}, {smallest, 'B'}};
+    for (const auto& [level, label] : levels) {
+        EXPECT_EQ(NotesAutomation::headingShortcut(level), commandShift(label)) << level;
+    }
+}
+
+TEST_F(NotesAutomationTest, PostsTwoEventsATenthOfASecondAfterAskingTheTargetToTheFront) {
+    NotesAutomation::simulateKeyboardShortcut(11, 0x100000);
+    EXPECT_THAT(platform.record, ElementsAre("activate 42", "key down 11", "key up 11"));
+    EXPECT_THAT(platform.runLoop.sleeps, ElementsAre(0.1));
+    EXPECT_THAT(platform.keyboardEvents.sources,
+                ElementsAre(platform::EventSourceState::HidSystem));
+    const auto& posted = platform.keyboardEvents.posted;
+    EXPECT_EQ(posted.at(0).flags, 0x100000U);
+    EXPECT_EQ(posted.at(1).flags, std::nullopt) << "the key-up keeps its source's flags";
+    EXPECT_EQ(posted.at(0).time, 0.1);
+    EXPECT_EQ(posted.at(1).tap, platform::EventTap::Hid);
+}
+
+TEST_F(NotesAutomationTest, NeverPostsALoneKeyDown) {
+    platform.keyboardEvents.keyUpCanBeMade = false;
+    NotesAutomation::simulateKeyboardShortcut(11, 0x100000);
+    platform.keyboardEvents.keyUpCanBeMade = true;
+    platform.keyboardEvents.keyDownCanBeMade = false;
+    NotesAutomation::simulateKeyboardShortcut(11, 0x100000);
+    EXPECT_TRUE(platform.keyboardEvents.posted.empty());
+}
+
+TEST_F(NotesAutomationTest, WithoutATargetOneLineIsLoggedAndNothingElseHappens) {
+    NotesAutomation::targetApplication.reset();
+    CaptureStdout();
+    NotesAutomation::simulateKeyboardShortcut(11, 0x100000);
+    EXPECT_EQ(GetCapturedStdout(),
+              "Quillet: simulateKeyboardShortcut skipped \u2014 no targetApplication set\n");
+    CaptureStdout();
+    NotesAutomation::showColorPicker();
+    EXPECT_EQ(GetCapturedStdout(), "Quillet: No target application\n");
+    platform.runLoop.advance(1);
+    EXPECT_TRUE(platform.record.empty());
+    EXPECT_TRUE(platform.runLoop.sleeps.empty());
+    EXPECT_TRUE(platform.colorPanel.modes.empty());
+}
+
+TEST_F(NotesAutomationDeathTest, AKeyOutside16BitsStopsTheProcess) {
+    EXPECT_DEATH(NotesAutomation::simulateKeyboardShortcut(65536, 0), "key code");
+    EXPECT_DEATH(NotesAutomation::simulateKeyboardShortcut(-1, 0), "key code");
+    NotesAutomation::simulateKeyboardShortcut(65535, 0);
+    EXPECT_EQ(platform.keyboardEvents.posted.size(), 2U);
+}
+
+TEST_F(NotesAutomationTest, OpensTheTargetsColoursAndPlacesTheOwnPanelLater) {
+    NotesAutomation::showColorPicker();
+    EXPECT_THAT(platform.record,
+                ElementsAre("activate 42", "activate 42", "key down 8", "key up 8"));
+    EXPECT_THAT(platform.runLoop.sleeps, ElementsAre(0.05, 0.1));
+    EXPECT_EQ(platform.keyboardEvents.posted.at(0).flags, 0x120000U);
+    platform.runLoop.advance(0.29);
+    EXPECT_TRUE(platform.colorPanel.modes.empty());
+    platform.runLoop.advance(0.01);
+    EXPECT_THAT(platform.runLoop.now(), DoubleNear(0.45, 1e-9));
+    EXPECT_THAT(platform.colorPanel.modes, ElementsAre(platform::ColorPanelMode::ColorList));
+    EXPECT_TRUE(platform.colorPanel.origins.empty()) << "no position is set";
+}
+
+TEST_F(NotesAutomationTest, ThePanelStaysInsideTheVisibleFrame) {
+    platform.screens.main = platform::Screen{{0, 0, 1920, 1080}, {0, 40, 1900, 1000}};
+    platform.colorPanel.panelFrame = {7, 7, 300, 400};
+    const std::vector<std::pair<Point, Point>> rows{
+        {{100, 100}, {100, 100}},   // room enough
+        {{1600, 640}, {1600, 640}}, // touches the right and the top edge
+        {{1601, 641}, {1291, 630}}, // beyond both: left of the point, below the top
+        {{0, 100}, {0, 100}},       // one zero alone is a position
+        {{100, -5}, {100, 50}},     // below the bottom
+    };
+    for (const auto& [wanted, expected] : rows) {
+        EXPECT_EQ(placed(wanted), expected) << wanted.x << ", " << wanted.y;
+    }
+    platform.colorPanel.panelFrame.height = 2000;
+    EXPECT_EQ(placed({100, 100}), (Point{100, 50})) << "taller than the screen: up from the bottom";
+    platform.screens.main.reset();
+    EXPECT_EQ(placed({5000, 5000}), (Point{5000, 5000})) << "no screen: as it is";
+}
