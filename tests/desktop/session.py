@@ -1,0 +1,182 @@
+"""A private desktop: an X server, a session bus, a window manager and the accessibility bus."""
+
+import os
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+
+from gi.repository import Gio, GLib
+
+import processes
+import wait
+
+CALL_LIMIT = 3000  # Milliseconds that a D-Bus call may take.
+
+
+class Session:
+    """Everything that a program needs to believe in a desktop; gone without a trace at the end.
+
+    `monitors` are (width, height, x, y) rectangles of the one wide X screen; empty means that the
+    whole screen is one monitor.
+    """
+
+    def __init__(self, width=1280, height=800, monitors=(), window_manager=True,
+                 accessibility=True):
+        self._children = []
+        self._logs = []
+        self.folder = tempfile.mkdtemp(prefix="quillet-")
+        self.size = (width, height)
+        signal.signal(signal.SIGTERM, lambda *_: sys.exit("ended by SIGTERM"))
+        try:
+            self._make_environment()
+            self._start_x_server(width, height, monitors)
+            self._start_bus()
+            if window_manager:
+                self._start_window_manager()
+            if accessibility:
+                self._switch_accessibility_on()
+        except BaseException:
+            self.close()
+            raise
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.close()
+
+    def close(self):
+        """Ends every process of the session and removes its folder. Safe to call twice."""
+        while self._children:
+            processes.end(self._children.pop())
+        processes.end_all_with_environment("XDG_RUNTIME_DIR", self.runtime_folder)
+        while self._logs:
+            self._logs.pop().close()
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    @property
+    def runtime_folder(self):
+        return os.path.join(self.folder, "runtime")
+
+    @property
+    def config_folder(self):
+        return os.path.join(self.folder, "home", ".config")
+
+    @property
+    def display(self):
+        return self.environment["DISPLAY"]
+
+    def path(self, name):
+        """The path of a file of this session."""
+        return os.path.join(self.folder, name)
+
+    def start(self, command, environment=None, **options):
+        """Starts a program in the session; its output goes to a log unless the caller takes it."""
+        if "stdout" not in options:
+            log = open(self.path(f"{os.path.basename(command[0])}.log"), "ab")
+            self._logs.append(log)
+            options.update(stdout=log, stderr=subprocess.STDOUT)
+        child = processes.start(command, {**self.environment, **(environment or {})}, **options)
+        self._children.append(child)
+        return child
+
+    def end(self, process):
+        """Ends a program that `start` gave."""
+        processes.end(process)
+        if process in self._children:
+            self._children.remove(process)
+
+    def call(self, name, path, interface, method, arguments=None, answer=None):
+        """A call on the session bus, with a limit."""
+        return self.bus.call_sync(name, path, interface, method, arguments,
+                                  GLib.VariantType(answer) if answer else None,
+                                  Gio.DBusCallFlags.NONE, CALL_LIMIT, None)
+
+    def _make_environment(self):
+        home = os.path.join(self.folder, "home")
+        os.mkdir(self.runtime_folder, 0o700)
+        for part in (".config", ".local/share", ".cache"):
+            os.makedirs(os.path.join(home, part))
+        kept = {key: os.environ[key] for key in ("PATH", "ASAN_OPTIONS", "UBSAN_OPTIONS",
+                                                 "LSAN_OPTIONS") if key in os.environ}
+        self.environment = {
+            **kept,
+            "HOME": home,
+            "USER": "quillet",
+            "LC_ALL": "C.UTF-8",
+            "XDG_RUNTIME_DIR": self.runtime_folder,
+            "XDG_CONFIG_HOME": self.config_folder,
+            "XDG_DATA_HOME": os.path.join(home, ".local/share"),
+            "XDG_CACHE_HOME": os.path.join(home, ".cache"),
+            "XDG_SESSION_TYPE": "x11",
+            "GDK_BACKEND": "x11",
+            "GSETTINGS_BACKEND": "keyfile",
+            "GIO_USE_VFS": "local",
+            "GTK_USE_PORTAL": "0",
+        }
+
+    def _start_x_server(self, width, height, monitors):
+        reading, writing = os.pipe()
+        self.start(["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{width}x{height}x24",
+                    "-dpi", "96", "-nolisten", "tcp", "-noreset"], pass_fds=[writing])
+        os.close(writing)
+        number = _read_line(reading, 10.0, "the X server is up")
+        self.environment["DISPLAY"] = f":{number}"
+        for index, (monitor_width, monitor_height, x, y) in enumerate(monitors):
+            # The first one takes the output, so that no monitor of the server's own is left.
+            subprocess.run(
+                ["xrandr", "--setmonitor", f"screen{index}",
+                 f"{monitor_width}/{monitor_width // 4}x{monitor_height}/{monitor_height // 4}"
+                 f"+{x}+{y}", "screen" if index == 0 else "none"],
+                env=self.environment, timeout=10, check=True, stdout=subprocess.DEVNULL)
+
+    def _start_bus(self):
+        reading, writing = os.pipe()
+        # A short path: the address of a socket has little room.
+        address = f"unix:path={self.runtime_folder}/bus"
+        self.start(["dbus-daemon", "--session", "--nofork", "--nopidfile", f"--address={address}",
+                    f"--print-address={writing}"], pass_fds=[writing])
+        os.close(writing)
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = _read_line(reading, 10.0, "the bus is up")
+        self.bus = Gio.DBusConnection.new_for_address_sync(
+            self.environment["DBUS_SESSION_BUS_ADDRESS"],
+            Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
+            | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None, None)
+        self.bus.set_exit_on_close(False)
+
+    def _start_window_manager(self):
+        self.start(["openbox", "--sm-disable"])
+        wait.until(self._window_manager_is_there, 10.0, "the window manager is up")
+
+    def _window_manager_is_there(self):
+        answer = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], text=True,
+                                env=self.environment, timeout=10, capture_output=True, check=True)
+        return "window id" in answer.stdout
+
+    def _switch_accessibility_on(self):
+        """Before any application starts: some look only then."""
+        self.call("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress")
+        self.call("org.a11y.Bus", "/org/a11y/bus", "org.freedesktop.DBus.Properties", "Set",
+                  GLib.Variant("(ssv)", ("org.a11y.Status", "IsEnabled",
+                                         GLib.Variant("b", True))))
+
+
+def _read_line(descriptor, limit, what):
+    os.set_blocking(descriptor, False)
+    line = b""
+
+    def whole():
+        nonlocal line
+        try:
+            line += os.read(descriptor, 200)
+        except BlockingIOError:
+            pass
+        return line.endswith(b"\n")
+
+    try:
+        wait.until(whole, limit, what)
+    finally:
+        os.close(descriptor)
+    return line.decode().strip()

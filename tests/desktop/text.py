@@ -1,0 +1,128 @@
+"""What a screen reader would learn of an application's text, over the accessibility bus."""
+
+from collections import deque
+
+from gi.repository import Gio, GLib
+
+import wait
+from windows import Rect
+
+CALL_LIMIT = 2000  # Milliseconds that one question may take.
+ON_SCREEN = 0
+FOCUSED = 12  # Bit numbers of the states.
+SHOWING = 25
+MOST_NODES = 3000
+
+_TEXT = "org.a11y.atspi.Text"
+_ACCESSIBLE = "org.a11y.atspi.Accessible"
+
+
+class AccessibilityBus:
+    """The bus on which applications tell what they show."""
+
+    def __init__(self, session):
+        address = session.call("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress",
+                               answer="(s)").unpack()[0]
+        self._connection = Gio.DBusConnection.new_for_address_sync(
+            address, Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
+            | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None, None)
+        self._connection.set_exit_on_close(False)
+
+    def call(self, name, path, interface, method, arguments=None):
+        return self._connection.call_sync(name, path, interface, method, arguments, None,
+                                          Gio.DBusCallFlags.NONE, CALL_LIMIT, None).unpack()
+
+    def focused_text(self, pid, limit=10.0):
+        """The text widget of a process that has the focus; waits until there is one."""
+        return wait.until(lambda: self._find_text(pid), limit,
+                          f"process {pid} has a focused text widget")
+
+    def _find_text(self, pid):
+        for name, path in self._applications(pid):
+            try:
+                found = self._walk(name, path)
+            except GLib.Error:
+                continue  # The tree changed under our feet: the next look finds it whole.
+            if found:
+                return found
+        return None
+
+    def _applications(self, pid):
+        roots = self.call("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root",
+                          _ACCESSIBLE, "GetChildren")[0]
+        for name, path in roots:
+            try:
+                if self.call("org.freedesktop.DBus", "/org/freedesktop/DBus",
+                             "org.freedesktop.DBus", "GetConnectionUnixProcessID",
+                             GLib.Variant("(s)", (name,)))[0] == pid:
+                    yield name, path
+            except GLib.Error:
+                continue
+
+    def _walk(self, name, path):
+        waiting = deque([(name, path)])
+        for _ in range(MOST_NODES):
+            if not waiting:
+                return None
+            node = waiting.popleft()
+            if self._is_focused(*node) and self._has_text(*node):
+                return Text(self, *node)
+            waiting.extend(self.call(*node, _ACCESSIBLE, "GetChildren")[0])
+        return None
+
+    def _is_focused(self, name, path):
+        low, _ = self.call(name, path, _ACCESSIBLE, "GetState")[0]
+        return bool(low & (1 << FOCUSED))
+
+    def _has_text(self, name, path):
+        return _TEXT in self.call(name, path, _ACCESSIBLE, "GetInterfaces")[0]
+
+
+class Text:
+    """One text widget of another application."""
+
+    def __init__(self, bus, name, path):
+        self._bus = bus
+        self._node = (name, path)
+
+    def content(self):
+        return self._ask("GetText", "(ii)", 0, -1)[0]
+
+    def offset_of(self, words):
+        """Where `words` begin; they must be there once."""
+        content = self.content()
+        if content.count(words) != 1:
+            raise AssertionError(f"{words!r} stands {content.count(words)} times in {content!r}")
+        return content.index(words)
+
+    def caret(self):
+        return self._bus.call(*self._node, "org.freedesktop.DBus.Properties", "Get",
+                              GLib.Variant("(ss)", (_TEXT, "CaretOffset")))[0]
+
+    def selection(self):
+        """The selected range as (start, end), or None."""
+        if self._ask("GetNSelections")[0] < 1:
+            return None
+        start, end = self._ask("GetSelection", "(i)", 0)
+        return (start, end) if end > start else None
+
+    def selected_text(self):
+        selection = self.selection()
+        return self._ask("GetText", "(ii)", *selection)[0] if selection else ""
+
+    def extents(self, start, end):
+        """The rectangle around a range, in pixels of the screen."""
+        return Rect(*self._ask("GetRangeExtents", "(iiu)", start, end, ON_SCREEN))
+
+    def attributes(self, offset):
+        """The attributes of the character at `offset`."""
+        return self._ask("GetAttributeRun", "(ib)", offset, True)[0]
+
+    def is_bold(self, start, end):
+        """Whether every character of a range is drawn bold."""
+        return all(int(self.attributes(offset).get("weight", "400")) >= 700
+                   for offset in range(start, end))
+
+    def _ask(self, method, kinds=None, *values):
+        return self._bus.call(*self._node, _TEXT, method,
+                              GLib.Variant(kinds, values) if kinds else None)
