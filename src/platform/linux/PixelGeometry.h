@@ -44,19 +44,27 @@ public:
     const std::vector<PixelScreen>& screens() const { return screens_; }
 
     /// Points with the origin at the primary screen's top-left corner, y downwards.
+    /// What spans two screens, or lies on none, is scaled like the screen nearest to its centre.
     Rect topLeftPoints(const PixelRect& pixels) const;
 
     /// Global points, origin at the primary screen's bottom-left corner, y upwards.
     Rect globalPoints(const PixelRect& pixels) const;
+    /// The same for what is known to belong to one of the screens.
+    Rect globalPoints(const PixelRect& pixels, const PixelScreen& screen) const;
     Point globalPoint(PixelPoint pixel) const;
 
-    /// Rounded to whole pixels. Numbers that are none, or lie far outside every screen, are
-    /// brought within the range of X's coordinates.
+    /// Rounded to whole pixels. Numbers that are none count as 0, and what lies far outside every
+    /// screen is brought within the range of X's coordinates.
     PixelRect pixels(const Rect& global) const;
 
+    /// The screen that holds a pixel, else the nearest one; null when there is no screen.
+    const PixelScreen* screenNearest(PixelPoint pixel) const;
+    /// The primary screen, else the first one; null when there is no screen.
+    const PixelScreen* primaryScreen() const;
+
 private:
-    const PixelScreen* screenAt(double x, double y) const;
-    const PixelScreen* primary() const;
+    Rect topLeftPoints(const PixelRect& pixels, const PixelScreen& screen) const;
+    Rect flipped(const Rect& topLeft) const;
 
     std::vector<PixelScreen> screens_;
 };
