@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/IconReference.h"
+
 #include <QString>
 
 #include <cstdint>
@@ -19,6 +21,7 @@ struct RunningApplication {
     std::optional<QString> bundleIdentifier;
     std::optional<QString> localizedName;
     ActivationPolicy activationPolicy = ActivationPolicy::Regular;
+    std::optional<IconReference> icon;
 
     bool operator==(const RunningApplication& other) const {
         return processIdentifier == other.processIdentifier;
