@@ -4,6 +4,7 @@
 #include "core/Log.h"
 #include "platform/Platform.h"
 #include "settings/DefaultsConversion.h"
+#include "settings/ShortcutNames.h"
 
 #include <limits>
 
@@ -79,6 +80,10 @@ bool AppSettingsManager::isAppAllowed(const std::optional<QString>& bundleIdenti
         return false;
     }
     return useAllApps || allowedApps.get().contains(*bundleIdentifier);
+}
+
+QString AppSettingsManager::shortcutDisplayString() const {
+    return settings::shortcutDisplayString(shortcutModifiers.get(), shortcutKeyCode.get());
 }
 
 void AppSettingsManager::addApp(const QString& bundleIdentifier) {

@@ -41,6 +41,9 @@ public:
     /// An application without an identifier is never allowed.
     bool isAppAllowed(const std::optional<QString>& bundleIdentifier) const;
 
+    /// The stored shortcut as the user reads it, such as "⌥⌘F".
+    QString shortcutDisplayString() const;
+
     /// Does nothing when the list already has it.
     void addApp(const QString& bundleIdentifier);
     void removeApp(const QString& bundleIdentifier);
