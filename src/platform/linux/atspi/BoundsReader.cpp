@@ -1,0 +1,136 @@
+#include "platform/linux/atspi/BoundsReader.h"
+
+#include <algorithm>
+
+namespace platform {
+
+namespace {
+
+/// Toolkits go through a range character by character, so that a whole book takes seconds. Of a
+/// longer span, pieces are asked for: its beginning, its end and some between.
+constexpr int longestPiece = 512;
+constexpr int piecesOfALongSpan = 9;
+constexpr int lengthOfAPiece = 48;
+constexpr std::size_t mostPieces = 64;
+
+std::vector<TextSpan> piecesOf(const std::vector<TextSpan>& spans) {
+    std::vector<TextSpan> pieces;
+    for (const auto& span : spans) {
+        const int length = span.end - span.start;
+        if (length <= longestPiece) {
+            pieces.push_back(span);
+            continue;
+        }
+        for (int index = 0; index < piecesOfALongSpan; ++index) {
+            const auto offset = static_cast<std::int64_t>(length - lengthOfAPiece) * index /
+                                (piecesOfALongSpan - 1);
+            const int start = span.start + static_cast<int>(offset);
+            pieces.push_back({span.object, start, start + lengthOfAPiece});
+        }
+    }
+    if (pieces.size() <= mostPieces) {
+        return pieces;
+    }
+    std::vector<TextSpan> some;
+    for (std::size_t index = 0; index < mostPieces; ++index) {
+        some.push_back(pieces[index * (pieces.size() - 1) / (mostPieces - 1)]);
+    }
+    return some;
+}
+
+/// What an application answers for text that is nowhere: 0, 0, 0, 0 or -1, -1, 0, 0; and numbers
+/// with which no screen could be reached.
+bool isSomewhere(const PixelRect& rect) {
+    constexpr int farthest = 1 << 20;
+    return rect.width >= 0 && rect.height > 0 && rect.width < farthest && rect.height < farthest &&
+           std::abs(rect.x) < farthest && std::abs(rect.y) < farthest;
+}
+
+PixelRect united(const PixelRect& a, const PixelRect& b) {
+    const int x = std::min(a.x, b.x);
+    const int y = std::min(a.y, b.y);
+    return {x, y, std::max(a.x + a.width, b.x + b.width) - x,
+            std::max(a.y + a.height, b.y + b.height) - y};
+}
+
+/// Empty when nothing is common; a width of zero, as a caret has, is kept.
+std::optional<PixelRect> common(const PixelRect& a, const PixelRect& b) {
+    const int x = std::max(a.x, b.x);
+    const int y = std::max(a.y, b.y);
+    const int right = std::min(a.x + a.width, b.x + b.width);
+    const int bottom = std::min(a.y + a.height, b.y + b.height);
+    if (right < x || bottom <= y) {
+        return std::nullopt;
+    }
+    return PixelRect{x, y, right - x, bottom - y};
+}
+
+} // namespace
+
+std::optional<PixelRect> BoundsReader::read(const std::vector<TextSpan>& spans,
+                                            const ObjectReference& window,
+                                            ProcessIdentifier process) {
+    auto bounds = unitedExtents(piecesOf(spans));
+    if (!bounds) {
+        return std::nullopt;
+    }
+    if (const auto clientArea = windows_.activeWindowClientArea(process)) {
+        const auto offset = offsetOf(window, *clientArea);
+        bounds->x += offset.x;
+        bounds->y += offset.y;
+        bounds = common(*bounds, *clientArea);
+    }
+    if (!bounds) {
+        return std::nullopt;
+    }
+    std::optional<PixelRect> visible;
+    const auto geometry = windows_.pixelGeometry();
+    if (geometry.screens().empty()) {
+        return bounds;
+    }
+    for (const auto& screen : geometry.screens()) {
+        if (const auto part = common(*bounds, screen.frame)) {
+            visible = visible ? united(*visible, *part) : *part;
+        }
+    }
+    return visible;
+}
+
+std::optional<PixelRect> BoundsReader::unitedExtents(const std::vector<TextSpan>& pieces) {
+    std::vector<Request> questions;
+    questions.reserve(pieces.size());
+    for (const auto& piece : pieces) {
+        questions.push_back(requests::rangeExtents(piece.object, piece.start, piece.end));
+    }
+    std::optional<PixelRect> whole;
+    for (const auto& reply : inquiry_.askAll(questions)) {
+        const auto x = Inquiry::decode<int>(reply, 0);
+        const auto y = Inquiry::decode<int>(reply, 1);
+        const auto width = Inquiry::decode<int>(reply, 2);
+        const auto height = Inquiry::decode<int>(reply, 3);
+        if (!x || !y || !width || !height) {
+            continue;
+        }
+        const PixelRect rect{*x, *y, *width, *height};
+        if (isSomewhere(rect)) {
+            whole = whole ? united(*whole, rect) : rect;
+        }
+    }
+    return whole;
+}
+
+/// Some applications count from another corner than that of their window, and not always from the
+/// same one. Where what an application calls its frame is as large as the client area, it means the
+/// client area, and the two corners tell the difference.
+PixelPoint BoundsReader::offsetOf(const ObjectReference& window, const PixelRect& clientArea) {
+    if (window.isNull()) {
+        return {};
+    }
+    const auto frame = inquiry_.ask<Extents>(requests::extents(window));
+    if (!frame || frame->width != clientArea.width || frame->height != clientArea.height) {
+        return {};
+    }
+    return {clientArea.x - frame->x, clientArea.y - frame->y};
+}
+
+} // namespace platform

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "platform/linux/atspi/Inquiry.h"
+#include "platform/linux/atspi/WireTypes.h"
+
+#include <QSet>
+
+#include <optional>
+#include <vector>
+
+namespace platform {
+
+/// The object of an application that has the keyboard, and what was found out on the way.
+struct FocusedObject {
+    ObjectReference object;
+    /// The window that contains it; null where it is not known.
+    ObjectReference window;
+    unsigned role = 0;
+    bool hasText = false;
+    bool isEditable = false;
+
+    bool isPassword() const { return role == static_cast<unsigned>(Role::PasswordText); }
+};
+
+/// Finds the focused object of an application, whichever of the three ways its toolkit supports.
+class FocusFinder {
+public:
+    /// `lastFocused` is the object of the last focus event, the answer of toolkits that cannot
+    /// search; null when there was none.
+    std::optional<FocusedObject> find(const QString& service, const ObjectReference& lastFocused,
+                                      Inquiry& inquiry);
+
+    void forget(const QString& service);
+
+private:
+    static std::vector<ObjectReference> activeWindows(const QString& service, Inquiry& inquiry);
+    std::optional<FocusedObject>
+    search(const QString& service, const std::vector<ObjectReference>& windows, Inquiry& inquiry);
+    std::optional<FocusedObject> walk(const ObjectReference& window, Inquiry& inquiry);
+    static std::optional<FocusedObject> best(const std::vector<ObjectReference>& objects,
+                                             const ObjectReference& window, Inquiry& inquiry);
+
+    /// Applications that answered that they cannot search.
+    QSet<QString> withoutCollection_;
+    /// Applications in which a walk came to its limit; a focus event must show the way there.
+    QSet<QString> tooLargeToWalk_;
+};
+
+} // namespace platform

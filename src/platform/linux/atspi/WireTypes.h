@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QDBusArgument>
+#include <QList>
+#include <QMetaType>
+
+#include <cstdint>
+
+namespace platform {
+
+/// The few of the many roles that matter here.
+enum class Role : unsigned {
+    List = 31,
+    PasswordText = 40,
+    Table = 55,
+    Tree = 65,
+    TreeTable = 66,
+    Paragraph = 73,
+    Heading = 83,
+};
+
+enum class State { Active = 1, Editable = 7, Focused = 12, ManagesDescendants = 31 };
+
+/// The states of an object, one bit each.
+class StateSet {
+public:
+    StateSet() = default;
+    /// As on the wire: the low 32 states, then the high ones.
+    explicit StateSet(const QList<unsigned>& words) {
+        for (qsizetype word = 0; word < words.size() && word < 2; ++word) {
+            bits_ |= std::uint64_t{words[word]} << (32 * word);
+        }
+    }
+
+    bool has(State state) const { return ((bits_ >> static_cast<int>(state)) & 1U) != 0; }
+
+private:
+    std::uint64_t bits_ = 0;
+};
+
+/// A rectangle as applications give it, in device pixels.
+struct Extents {
+    int x = 0;
+    int y = 0;
+    int width = 0;
+    int height = 0;
+};
+
+/// The rule of a search among the descendants of an object: those that have one state.
+struct MatchRule {
+    State state = State::Focused;
+};
+
+QDBusArgument& operator<<(QDBusArgument& argument, const Extents& extents);
+const QDBusArgument& operator>>(const QDBusArgument& argument, Extents& extents);
+QDBusArgument& operator<<(QDBusArgument& argument, const MatchRule& rule);
+const QDBusArgument& operator>>(const QDBusArgument& argument, MatchRule& rule);
+
+/// Makes the types of this layer known to D-Bus. Call before the first message; repeating it does
+/// no harm.
+void registerWireTypes();
+
+} // namespace platform
+
+Q_DECLARE_METATYPE(platform::Extents)
+Q_DECLARE_METATYPE(platform::MatchRule)
