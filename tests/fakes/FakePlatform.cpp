@@ -114,10 +114,12 @@ platform::LoginItem::Error FakeLoginItem::unregisterItem() {
     return error;
 }
 
-void FakeStatusItem::show(const QIcon& icon, const QString& accessibilityDescription, QMenu& m) {
+core::Registration FakeStatusItem::show(const QIcon& icon, const QString& accessibilityDescription,
+                                        QMenu& m) {
     hasIcon = !icon.isNull();
     description = accessibilityDescription;
     menu = &m;
+    return core::Registration([this] { menu = nullptr; });
 }
 
 void FakeWindowServer::makeFloating(QWidget& window) {

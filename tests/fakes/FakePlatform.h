@@ -35,7 +35,8 @@ struct FakeAccessibility final : platform::Accessibility {
 };
 
 struct FakeWorkspace final : platform::Workspace {
-    explicit FakeWorkspace(Record& r) : record(r) {}
+    explicit FakeWorkspace(Record& r)
+        : record(r) {}
     Record& record;
     std::optional<platform::RunningApplication> frontmost;
     std::vector<platform::RunningApplication> running;
@@ -59,7 +60,9 @@ struct PostedKey {
 };
 
 struct FakeKeyboardEvents final : platform::KeyboardEvents {
-    FakeKeyboardEvents(Record& r, VirtualRunLoop& l) : record(r), runLoop(l) {}
+    FakeKeyboardEvents(Record& r, VirtualRunLoop& l)
+        : record(r)
+        , runLoop(l) {}
     Record& record;
     VirtualRunLoop& runLoop;
     bool keyDownCanBeMade = true;
@@ -67,8 +70,7 @@ struct FakeKeyboardEvents final : platform::KeyboardEvents {
     std::vector<platform::EventSourceState> sources;
     std::vector<PostedKey> posted;
 
-    std::unique_ptr<platform::EventSource>
-    createSource(platform::EventSourceState state) override;
+    std::unique_ptr<platform::EventSource> createSource(platform::EventSourceState state) override;
     std::unique_ptr<platform::KeyEvent> createKeyEvent(const platform::EventSource* source,
                                                        platform::KeyCode key,
                                                        platform::KeyDirection direction) override;
@@ -137,7 +139,8 @@ struct FakeStatusItem final : platform::StatusItem {
     QMenu* menu = nullptr;
     bool hasIcon = false;
 
-    void show(const QIcon& icon, const QString& accessibilityDescription, QMenu& m) override;
+    core::Registration show(const QIcon& icon, const QString& accessibilityDescription,
+                            QMenu& m) override;
 };
 
 struct FakeAlerts final : platform::Alerts {
@@ -153,7 +156,8 @@ struct FakeAlerts final : platform::Alerts {
 /// Remembers frames exactly and really shows and hides the widgets, so that offscreen tests can
 /// look at them.
 struct FakeWindowServer final : platform::WindowServer {
-    explicit FakeWindowServer(Record& r) : record(r) {}
+    explicit FakeWindowServer(Record& r)
+        : record(r) {}
     Record& record;
     std::map<const QWidget*, platform::Rect> frames;
     bool translucency = true;
