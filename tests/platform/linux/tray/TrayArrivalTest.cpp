@@ -1,0 +1,91 @@
+#include "platform/linux/freedesktop/TrayArrival.h"
+
+#include "core/Observers.h"
+#include "fakes/VirtualRunLoop.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class FakeTray final : public platform::TrayHost {
+public:
+    explicit FakeTray(bool there)
+        : there_(there) {}
+
+    bool isThere() const override { return there_; }
+    core::Registration observe(std::function<void()> handler) override {
+        return changed_.add(std::move(handler));
+    }
+    void set(bool there) {
+        there_ = there;
+        changed_.notify();
+    }
+
+private:
+    bool there_;
+    core::Observers<> changed_;
+};
+
+struct Desktop {
+    explicit Desktop(bool statusNotifierThere, bool xembedThere)
+        : statusNotifier(statusNotifierThere)
+        , xembed(xembedThere) {}
+
+    fakes::VirtualRunLoop runLoop;
+    FakeTray statusNotifier;
+    FakeTray xembed;
+    int icons = 0;
+    platform::TrayArrival arrival{runLoop, statusNotifier, xembed, [this] { ++icons; }};
+};
+
+} // namespace
+
+TEST(TrayArrival, AHostThatIsThereGetsTheIconAtOnce) {
+    const Desktop desktop(true, true);
+    EXPECT_EQ(desktop.icons, 1);
+}
+
+TEST(TrayArrival, ALateHostGetsTheIconWhenItComes) {
+    Desktop desktop(false, false);
+    desktop.runLoop.advance(3600);
+    EXPECT_EQ(desktop.icons, 0);
+    desktop.statusNotifier.set(true);
+    EXPECT_EQ(desktop.icons, 1);
+}
+
+TEST(TrayArrival, AHostThatComesSoonAfterTheOlderTrayWins) {
+    Desktop desktop(false, true);
+    desktop.runLoop.advance(1.9);
+    EXPECT_EQ(desktop.icons, 0);
+    desktop.statusNotifier.set(true);
+    EXPECT_EQ(desktop.icons, 1);
+}
+
+TEST(TrayArrival, TheOlderTrayGetsTheIconAfterAWhile) {
+    Desktop desktop(false, false);
+    desktop.runLoop.advance(10);
+    desktop.xembed.set(true);
+    desktop.runLoop.advance(1.9);
+    EXPECT_EQ(desktop.icons, 0);
+    desktop.runLoop.advance(0.1);
+    EXPECT_EQ(desktop.icons, 1);
+}
+
+TEST(TrayArrival, AnOlderTrayThatGoesAgainGetsNothing) {
+    Desktop desktop(false, true);
+    desktop.runLoop.advance(1.9);
+    desktop.xembed.set(false);
+    desktop.runLoop.advance(10);
+    EXPECT_EQ(desktop.icons, 0);
+}
+
+TEST(TrayArrival, WhateverComesLaterThereAreNeverTwoIcons) {
+    Desktop desktop(false, true);
+    desktop.runLoop.advance(2);
+    desktop.statusNotifier.set(true);
+    desktop.xembed.set(false);
+    desktop.statusNotifier.set(false);
+    desktop.statusNotifier.set(true);
+    desktop.runLoop.advance(10);
+    EXPECT_EQ(desktop.icons, 1);
+}
