@@ -1,0 +1,37 @@
+#pragma once
+
+#include "core/Registration.h"
+#include "platform/PointerMonitor.h"
+#include "platform/RunLoop.h"
+
+#include <QObject>
+
+class QMenu;
+
+namespace app {
+
+/// Lets the poll rest while a menu is open. The desktop's panel may show the menu in the program's
+/// stead and is not sure to say that it closed it, so a menu of which the program itself shows
+/// nothing also counts as closed once an entry was chosen, the pointer or Escape was pressed
+/// anywhere, another window became active, or ten seconds have passed.
+class MenuTracking : public QObject {
+public:
+    static constexpr platform::Seconds longestUnseen{10.0};
+
+    MenuTracking(QMenu& menu, platform::RunLoop& runLoop, platform::PointerMonitor& pointerMonitor);
+    ~MenuTracking() override;
+
+private:
+    void begin();
+    void end();
+    void watchUnseenMenu();
+
+    QMenu& menu_;
+    platform::RunLoop& runLoop_;
+    platform::PointerMonitor& pointerMonitor_;
+    bool open_ = false;
+    core::Registration dismissMonitor_;
+    core::Registration limit_;
+};
+
+} // namespace app
