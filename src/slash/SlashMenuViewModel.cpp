@@ -1,0 +1,57 @@
+#include "slash/SlashMenuViewModel.h"
+
+#include "core/Fatal.h"
+#include "core/LocalizedSearch.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace slash {
+
+SlashMenuViewModel::SlashMenuViewModel(std::function<void(SlashCommand)> select)
+    : onSelect(std::move(select)) {}
+
+std::vector<SlashCommand> SlashMenuViewModel::filteredCommands() const {
+    const QString& search = searchText.get();
+    if (search.isEmpty()) {
+        return {allSlashCommands.begin(), allSlashCommands.end()};
+    }
+    std::vector<SlashCommand> matching;
+    std::ranges::copy_if(
+        allSlashCommands, std::back_inserter(matching), [&search](SlashCommand command) {
+            return core::localizedCaseInsensitiveContains(rawValue(command), search) ||
+                   core::localizedCaseInsensitiveContains(description(command), search) ||
+                   shortcut(command).contains(search, Qt::CaseSensitive);
+        });
+    return matching;
+}
+
+void SlashMenuViewModel::selectCurrent() const {
+    const int index = selectedIndex.get();
+    const auto commands = filteredCommands();
+    if (index < 0) {
+        core::fatal(u"the slash menu's highlight is at a negative position");
+    }
+    if (std::cmp_less(index, commands.size())) {
+        onSelect(commands[static_cast<std::size_t>(index)]);
+    }
+}
+
+void SlashMenuViewModel::moveUp() {
+    moveTo(selectedIndex.get() - 1);
+}
+
+void SlashMenuViewModel::moveDown() {
+    // From a highlight beyond the end the last command is the next one down.
+    moveTo(selectedIndex.get() + 1);
+}
+
+void SlashMenuViewModel::moveTo(int index) {
+    const int count = static_cast<int>(filteredCommands().size());
+    if (count > 0) {
+        selectedIndex = std::clamp(index, 0, count - 1);
+    }
+}
+
+} // namespace slash
