@@ -38,12 +38,6 @@ double strokeOf(platform::SymbolWeight weight) {
     Q_UNREACHABLE();
 }
 
-/// A stroke of two pixels or more is a whole number of them, as a hinted letter's is; a thinner one
-/// would become too light or too heavy.
-double hintedStroke(double pixels) {
-    return pixels < 2 ? pixels : std::round(pixels);
-}
-
 QByteArray withStrokesScaled(const QByteArray& drawing, double factor) {
     static const QRegularExpression strokeWidth(QStringLiteral("stroke-width=\"([0-9.]+)\""));
     const QString source = QString::fromUtf8(drawing);
@@ -61,8 +55,7 @@ QByteArray withStrokesScaled(const QByteArray& drawing, double factor) {
 
 QImage render(const QByteArray& drawing, platform::SymbolWeight weight, int pixelHeight) {
     const double scale = pixelHeight / gridHeight;
-    const double stroke = hintedStroke(strokeOf(weight) * scale);
-    QSvgRenderer renderer(withStrokesScaled(drawing, stroke / (drawnStroke * scale)));
+    QSvgRenderer renderer(withStrokesScaled(drawing, strokeOf(weight) / drawnStroke));
     const QSizeF size = renderer.viewBoxF().size() * scale;
 
     QImage image(static_cast<int>(std::ceil(size.width() - 0.01)), pixelHeight,
@@ -71,7 +64,8 @@ QImage render(const QByteArray& drawing, platform::SymbolWeight weight, int pixe
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     // Strokes run on whole grid units: moved by so much, their upper and left edges are sharp.
-    const double toPixelEdge = stroke / 2 - std::round(stroke / 2);
+    const double halfStroke = strokeOf(weight) * scale / 2;
+    const double toPixelEdge = halfStroke - std::round(halfStroke);
     const double surplus = (image.width() - size.width()) / 2;
     renderer.render(&painter, QRectF({toPixelEdge + surplus, toPixelEdge}, size));
     painter.end();

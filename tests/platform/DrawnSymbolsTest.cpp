@@ -1,0 +1,211 @@
+#include "platform/qt/DrawnSymbols.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QRect>
+#include <QRegularExpression>
+#include <QSet>
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <numeric>
+
+using namespace Qt::StringLiterals;
+using platform::DrawnSymbols;
+using platform::SymbolStyle;
+using platform::SymbolWeight;
+
+namespace {
+
+constexpr SymbolWeight weights[] = {SymbolWeight::Regular, SymbolWeight::Medium,
+                                    SymbolWeight::Semibold, SymbolWeight::Bold};
+constexpr SymbolStyle barStyle{14, SymbolWeight::Medium};
+
+QStringList drawnNames() {
+    QStringList names = QDir(QStringLiteral(":/symbols")).entryList();
+    names.replaceInStrings(QRegularExpression(QStringLiteral("\\.svg$")), QString());
+    return names;
+}
+
+std::vector<int> row(const QImage& mask, int y) {
+    const uchar* line = mask.constScanLine(y);
+    return {line, line + mask.width()};
+}
+
+int coverage(const QImage& mask) {
+    int sum = 0;
+    for (int y = 0; y < mask.height(); ++y) {
+        const auto pixels = row(mask, y);
+        sum = std::accumulate(pixels.begin(), pixels.end(), sum);
+    }
+    return sum;
+}
+
+/// The pixels that are covered by more than a half: without the fringes of strokes.
+QRect coveredRect(const QImage& mask) {
+    QRect covered;
+    for (int y = 0; y < mask.height(); ++y) {
+        const auto pixels = row(mask, y);
+        for (int x = 0; x < mask.width(); ++x) {
+            if (pixels[static_cast<std::size_t>(x)] > 255 / 2) {
+                covered |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return covered;
+}
+
+} // namespace
+
+TEST(DrawnSymbols, AreTheOnesThatTheViewsName) {
+    const QSet<QString> views{
+        // the bar
+        u"bold"_s, u"italic"_s, u"underline"_s, u"strikethrough"_s, u"paintpalette.fill"_s,
+        u"textformat.size"_s, u"chevron.down"_s, u"chevron.left.forwardslash.chevron.right"_s,
+        u"link"_s, u"list.bullet"_s, u"list.dash"_s, u"list.number"_s, u"checklist"_s,
+        u"decrease.indent"_s, u"increase.indent"_s, u"textformat.size.smaller"_s,
+        u"textformat.size.larger"_s, u"textformat"_s,
+        // the slash menu
+        u"minus"_s, u"tablecells"_s, u"doc.text"_s, u"sparkles"_s, u"magnifyingglass"_s,
+        // the menu bar, the settings and the feedback form
+        u"textformat.alt"_s, u"slider.horizontal.3"_s, u"app.badge"_s, u"gear"_s, u"app"_s,
+        u"envelope.badge"_s, u"checkmark.circle.fill"_s, u"exclamationmark.circle.fill"_s};
+    const QStringList names = drawnNames();
+    EXPECT_EQ(QSet<QString>(names.begin(), names.end()), views);
+}
+
+TEST(DrawnSymbols, HaveADrawingForEachNameInTheSources) {
+    const QStringList names = drawnNames();
+    QSet<QString> families;
+    for (const QString& name : names) {
+        families.insert(name.section(u'.', 0, 0));
+    }
+    const QRegularExpression literal(QStringLiteral("\"([a-z]+)((?:\\.[a-z0-9]+)+)\""));
+    QDirIterator files(QStringLiteral(QUILLET_SOURCES), {u"*.cpp"_s, u"*.h"_s}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    int found = 0;
+    while (files.hasNext()) {
+        QFile file(files.next());
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        for (auto matches = literal.globalMatch(QString::fromUtf8(file.readAll()));
+             matches.hasNext();) {
+            const auto match = matches.next();
+            if (families.contains(match.captured(1))) {
+                ++found;
+                const QString name = match.captured(1) + match.captured(2);
+                EXPECT_TRUE(names.contains(name)) << qPrintable(file.fileName() + u": "_s + name);
+            }
+        }
+    }
+    EXPECT_GT(found, 0);
+}
+
+TEST(DrawnSymbols, AreDrawnInsideTheirBoxAtEveryRatioAndWeight) {
+    DrawnSymbols symbols;
+    for (const QString& name : drawnNames()) {
+        for (const double ratio : {1.0, 1.25, 2.0, 3.0}) {
+            for (const SymbolWeight weight : weights) {
+                SCOPED_TRACE(qPrintable(QStringLiteral("%1 at ratio %2, weight %3")
+                                            .arg(name)
+                                            .arg(ratio)
+                                            .arg(static_cast<int>(weight))));
+                const QImage mask = symbols.mask(name, {14, weight}, ratio);
+                ASSERT_EQ(mask.format(), QImage::Format_Alpha8);
+                EXPECT_EQ(mask.devicePixelRatio(), ratio);
+                EXPECT_EQ(mask.height(), std::lround(18 * ratio));
+                EXPECT_LE(mask.width(), 24 * ratio);
+                const QRect covered = coveredRect(mask);
+                EXPECT_GE(covered.width(), 6 * ratio);
+                EXPECT_TRUE(mask.rect().adjusted(1, 1, -1, -1).contains(covered));
+            }
+        }
+    }
+}
+
+TEST(DrawnSymbols, StandInTheMiddleOfTheirBox) {
+    DrawnSymbols symbols;
+    for (const QString& name : drawnNames()) {
+        const QImage mask = symbols.mask(name, barStyle, 4);
+        const QRectF covered = coveredRect(mask);
+        const double offset = (covered.center().x() - QRectF(mask.rect()).center().x()) / 4;
+        EXPECT_LE(std::abs(offset), 0.75) << qPrintable(name);
+    }
+}
+
+TEST(DrawnSymbols, LettersStandOnOneBaseline) {
+    DrawnSymbols symbols;
+    const int baseline = coveredRect(symbols.mask(u"textformat"_s, barStyle, 2)).bottom();
+    for (const QString& name : {u"textformat.size"_s, u"textformat.size.smaller"_s,
+                                u"textformat.size.larger"_s, u"italic"_s}) {
+        EXPECT_EQ(coveredRect(symbols.mask(name, barStyle, 2)).bottom(), baseline)
+            << qPrintable(name);
+    }
+}
+
+TEST(DrawnSymbols, StrokesOfTheBarBeginOnAPixel) {
+    DrawnSymbols symbols;
+    const auto columnInTheMiddle = [](const QImage& mask) {
+        std::vector<int> covered;
+        for (int y = 0; y < mask.height(); ++y) {
+            const int pixel = row(mask, y)[static_cast<std::size_t>(mask.width() / 2)];
+            if (pixel > 0) {
+                covered.push_back(pixel);
+            }
+        }
+        return covered;
+    };
+    const auto once = columnInTheMiddle(symbols.mask(u"minus"_s, barStyle, 1));
+    ASSERT_EQ(once.size(), 2U);
+    EXPECT_EQ(once[0], 255);
+    EXPECT_NEAR(once[1], 128, 16);
+    const auto twice = columnInTheMiddle(symbols.mask(u"minus"_s, barStyle, 2));
+    EXPECT_EQ(twice, std::vector<int>(3, 255));
+}
+
+TEST(DrawnSymbols, HeavierWeightsCoverMore) {
+    DrawnSymbols symbols;
+    for (const QString& name : drawnNames()) {
+        if (name.endsWith(u".fill")) {
+            continue; // nothing of these is a stroke
+        }
+        int lighter = 0;
+        for (const SymbolWeight weight : weights) {
+            const int covered = coverage(symbols.mask(name, {14, weight}, 3));
+            EXPECT_GT(covered, lighter) << qPrintable(name);
+            lighter = covered;
+        }
+    }
+}
+
+TEST(DrawnSymbols, PointsTimesRatioMakesThePixels) {
+    DrawnSymbols symbols;
+    QImage twice = symbols.mask(u"link"_s, {14, SymbolWeight::Bold}, 2);
+    EXPECT_EQ(twice.size(), QSize(36, 36));
+    QImage large = symbols.mask(u"link"_s, {28, SymbolWeight::Bold}, 1);
+    EXPECT_EQ(large.devicePixelRatio(), 1);
+    large.setDevicePixelRatio(2);
+    EXPECT_EQ(twice, large);
+    EXPECT_EQ(symbols.mask(u"chevron.down"_s, {8, SymbolWeight::Bold}, 1).size(), QSize(8, 10));
+}
+
+TEST(DrawnSymbols, AreRenderedOnce) {
+    DrawnSymbols symbols;
+    const QImage first = symbols.mask(u"link"_s, barStyle, 1);
+    EXPECT_EQ(symbols.mask(u"link"_s, barStyle, 1).constBits(), first.constBits());
+    EXPECT_NE(symbols.mask(u"link"_s, {14, SymbolWeight::Bold}, 1), first);
+    EXPECT_NE(symbols.mask(u"app"_s, barStyle, 1), first);
+}
+
+TEST(DrawnSymbols, AreNullForWhatCannotBeDrawn) {
+    DrawnSymbols symbols;
+    constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+    for (const QString& name : {QString(), u"Bold"_s, u"bold.svg"_s, u"textformat.size."_s}) {
+        EXPECT_TRUE(symbols.mask(name, barStyle, 1).isNull()) << qPrintable(name);
+    }
+    for (const double bad : {0.0, -14.0, 1e9, notANumber}) {
+        EXPECT_TRUE(symbols.mask(u"bold"_s, {bad, SymbolWeight::Medium}, 1).isNull()) << bad;
+        EXPECT_TRUE(symbols.mask(u"bold"_s, barStyle, bad).isNull()) << bad;
+    }
+    EXPECT_FALSE(symbols.mask(u"bold"_s, {0.1, SymbolWeight::Medium}, 1).isNull());
+}
