@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 namespace {
 
@@ -95,7 +96,7 @@ QImage DrawnSymbols::mask(const QString& name, const SymbolStyle& style, double 
     QImage image =
         render(file.readAll(), style.weight, std::max(1, static_cast<int>(std::round(height))));
     image.setDevicePixelRatio(devicePixelRatio);
-    masks_.insert(key, new QImage(image), image.sizeInBytes());
+    masks_.insert(key, std::make_unique<QImage>(image).release(), image.sizeInBytes());
     return image;
 }
 
