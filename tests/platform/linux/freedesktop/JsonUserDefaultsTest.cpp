@@ -1,0 +1,176 @@
+#include "platform/linux/freedesktop/JsonUserDefaults.h"
+
+#include "ConfigFolder.h"
+
+#include <QFileInfo>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+using platform::DefaultsValue;
+using platform::JsonUserDefaults;
+using testing::HasSubstr;
+using testing::internal::CaptureStdout;
+using testing::internal::GetCapturedStdout;
+
+namespace {
+
+const auto settings = QStringLiteral("settings.json");
+const auto key = QStringLiteral("key");
+
+class JsonUserDefaultsTest : public testing::Test {
+protected:
+    fakes::ConfigFolder folder;
+    QString path = folder.path(settings);
+
+    ino_t inode() const {
+        struct stat status {};
+        EXPECT_EQ(::stat(QFile::encodeName(path).constData(), &status), 0);
+        return status.st_ino;
+    }
+
+    /// What is logged while `action` runs, which must be one line or none.
+    static std::string logged(const std::function<void()>& action) {
+        CaptureStdout();
+        action();
+        const std::string lines = GetCapturedStdout();
+        EXPECT_LE(std::ranges::count(lines, '\n'), 1) << lines;
+        return lines;
+    }
+};
+
+} // namespace
+
+TEST_F(JsonUserDefaultsTest, TellsTypesApartAndYieldsNothingForOthers) {
+    folder.write(settings, R"({"bool": true, "one": 1, "one as fraction": 1.0, "string": "1",
+        "beyond signed": 9223372036854775808, "negative": -1, "beyond all": 18446744073709551616,
+        "list": ["a"], "mixed": ["a", 1], "null": null, "object": {}})");
+    const JsonUserDefaults defaults(path);
+    const std::vector<std::pair<QString, std::optional<DefaultsValue>>> rows{
+        {QStringLiteral("bool"), true},
+        {QStringLiteral("one"), std::int64_t{1}},
+        {QStringLiteral("one as fraction"), 1.0},
+        {QStringLiteral("string"), QStringLiteral("1")},
+        {QStringLiteral("beyond signed"), std::uint64_t{1} << 63},
+        {QStringLiteral("negative"), std::int64_t{-1}},
+        {QStringLiteral("beyond all"), 18446744073709551616.0},
+        {QStringLiteral("list"), QStringList{QStringLiteral("a")}},
+        {QStringLiteral("mixed"), std::nullopt},
+        {QStringLiteral("null"), std::nullopt},
+        {QStringLiteral("object"), std::nullopt},
+    };
+    for (const auto& [name, expected] : rows) {
+        EXPECT_EQ(defaults.object(name), expected) << name.toStdString();
+    }
+}
+
+TEST_F(JsonUserDefaultsTest, MakesItsFolderAndKeepsWhatItDoesNotKnow) {
+    const QString deep = folder.path(QStringLiteral("a/b/settings.json"));
+    JsonUserDefaults(deep).set(key, true);
+    EXPECT_EQ(JsonUserDefaults(deep).object(key), DefaultsValue(true));
+
+    folder.write(settings, R"({"later version": {"deep": [1, null]}, "key": "old"})");
+    JsonUserDefaults(path).set(key, 2.0);
+    EXPECT_EQ(folder.read(settings).simplified(),
+              R"({ "later version": { "deep": [ 1, null ] }, "key": 2.0 })");
+}
+
+TEST_F(JsonUserDefaultsTest, TouchesTheDiskOnlyWhenTheFileWouldChange) {
+    JsonUserDefaults(path).set(key, true);
+    const ino_t first = inode();
+    JsonUserDefaults defaults(path);
+    defaults.set(key, true);
+    EXPECT_EQ(inode(), first) << "every replacement is a new file";
+
+    folder.write(settings, "{}");
+    defaults.set(key, true);
+    EXPECT_THAT(folder.read(settings).toStdString(), HasSubstr("true")) << "it had changed";
+    QFile::remove(path);
+    defaults.set(key, true);
+    EXPECT_THAT(folder.read(settings).toStdString(), HasSubstr("true")) << "it was gone";
+}
+
+TEST_F(JsonUserDefaultsTest, ADamagedFileIsSetAsideAndNeverOverwritesAnEarlierOne) {
+    const std::vector<QByteArray> damaged{"",
+                                          "{",
+                                          "[1]",
+                                          "\"text\"",
+                                          "{\"key\": true} x",
+                                          "{\"key\": 1e999}",
+                                          "{\"key\": \"\xff\"}",
+                                          QByteArray(100'000, '[')};
+    for (const QByteArray& contents : damaged) {
+        folder.write(settings, contents);
+        std::optional<JsonUserDefaults> defaults;
+        EXPECT_THAT(logged([&] { defaults.emplace(path); }), HasSubstr("set aside"));
+        EXPECT_EQ(defaults->object(key), std::nullopt);
+        defaults->set(key, true);
+        EXPECT_EQ(JsonUserDefaults(path).object(key), DefaultsValue(true));
+    }
+    EXPECT_EQ(folder.read(QStringLiteral("settings.json.damaged")), damaged.front());
+    for (std::size_t i = 1; i < damaged.size(); ++i) {
+        EXPECT_EQ(folder.read(QStringLiteral("settings.json.damaged-%1").arg(i + 1)), damaged[i]);
+    }
+}
+
+TEST_F(JsonUserDefaultsTest, WhatIsNoFileIsSetAsideWithoutBeingOpened) {
+    ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    EXPECT_THAT(logged([&] { JsonUserDefaults(path).set(key, true); }), HasSubstr("set aside"));
+    EXPECT_EQ(JsonUserDefaults(path).object(key), DefaultsValue(true));
+    EXPECT_EQ(folder.names(), QStringLiteral("settings.json settings.json.damaged"));
+}
+
+TEST_F(JsonUserDefaultsTest, WritesThroughALinkAlsoToATargetThatIsNotThereYet) {
+    QDir().mkdir(folder.path(QStringLiteral("elsewhere")));
+    const auto target = QStringLiteral("elsewhere/real.json");
+    ASSERT_TRUE(QFile::link(folder.path(target), path));
+    for (const bool value : {true, false}) {
+        JsonUserDefaults(path).set(key, value);
+        EXPECT_TRUE(QFileInfo(path).isSymLink());
+        EXPECT_EQ(JsonUserDefaults(folder.path(target)).object(key), DefaultsValue(value));
+    }
+    folder.write(target, "damaged");
+    EXPECT_THAT(logged([&] { JsonUserDefaults(path).set(key, true); }), HasSubstr("set aside"));
+    EXPECT_EQ(folder.read(target + QLatin1String(".damaged")), "damaged");
+    EXPECT_TRUE(QFileInfo(path).isSymLink());
+}
+
+TEST_F(JsonUserDefaultsTest, AFolderThatCannotBeMadeCostsOneLineAndNothingElse) {
+    folder.write(QStringLiteral("occupied"), "");
+    JsonUserDefaults defaults(folder.path(QStringLiteral("occupied/settings.json")));
+    const std::string lines = logged([&] {
+        defaults.set(key, true);
+        defaults.set(key, 1.5);
+    });
+    EXPECT_THAT(lines, HasSubstr("Quillet: the settings cannot be stored"));
+    EXPECT_EQ(defaults.object(key), DefaultsValue(1.5));
+}
+
+TEST_F(JsonUserDefaultsTest, AFullDiskLeavesTheOldFileWhole) {
+    JsonUserDefaults defaults(path);
+    defaults.set(key, true);
+    const QByteArray old = folder.read(settings);
+
+    rlimit limit{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &limit), 0);
+    rlimit tight = limit;
+    tight.rlim_cur = 1000;
+    const auto previous = std::signal(SIGXFSZ, SIG_IGN);
+    const std::string lines = logged([&] {
+        ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &tight), 0);
+        defaults.set(key, QString(5000, u'x'));
+        defaults.set(key, QString(5001, u'x'));
+        ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
+    });
+    std::signal(SIGXFSZ, previous);
+
+    EXPECT_THAT(lines, HasSubstr("cannot be stored"));
+    EXPECT_EQ(folder.read(settings), old);
+    EXPECT_EQ(folder.names(), settings) << "nothing half-written is left";
+    EXPECT_EQ(logged([&] { defaults.set(key, 1.5); }), "") << "room again";
+    EXPECT_EQ(JsonUserDefaults(path).object(key), DefaultsValue(1.5));
+}
