@@ -34,7 +34,10 @@ class Desktop:
 
     def focus(self, application):
         """Brings an application's window forward; its text widget that then has the focus."""
-        self.windows.activate(application.window)
+        if self.session.has_window_manager:
+            self.windows.activate(application.window)
+        else:
+            self.windows.focus(application.window)
         wait.until(lambda: self.windows.focused_pid() == application.pid, 5.0,
                    f"process {application.pid} has the keyboard")
         return self.accessibility.focused_text(application.pid)

@@ -27,6 +27,7 @@ xmlns:size="http://beatniksoftware.com/tomboy/size" xmlns="http://beatniksoftwar
 _SETTINGS = """[org/gnome/gnote]
 enable-spellchecking=false
 enable-url-links=false
+enable-close-note-on-escape=false
 use-client-side-decorations='disabled'
 search-window-width=640
 search-window-height=400

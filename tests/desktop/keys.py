@@ -3,7 +3,7 @@
 from Xlib import X, XK, display
 from Xlib.ext import xtest
 
-LEFT_BUTTON = 1
+LEFT_BUTTON, RIGHT_BUTTON = 1, 3
 
 MODIFIERS = {"Control": "Control_L", "Shift": "Shift_L", "Alt": "Alt_L", "Super": "Super_L"}
 
@@ -37,23 +37,15 @@ class Hands:
         self._key(X.KeyRelease, key)
         self.held.remove(key)
 
-    def type(self, text):
-        """Letters, digits, spaces and full stops on the US layout."""
-        names = {" ": "space", ".": "period", "\n": "Return", "/": "slash", "-": "minus"}
-        for letter in text:
-            name = names.get(letter, letter)
-            self.press(f"Shift+{name.lower()}" if name.isupper() else name)
-
     def move(self, x, y):
         """Puts the pointer at a pixel of the screen."""
         xtest.fake_input(self._display, X.MotionNotify, x=round(x), y=round(y))
         self._display.sync()
 
-    def click(self, x, y, times=1):
+    def click(self, x, y, button=LEFT_BUTTON):
         self.move(x, y)
-        for _ in range(times):
-            self._button(X.ButtonPress)
-            self._button(X.ButtonRelease)
+        self._button(X.ButtonPress, button)
+        self._button(X.ButtonRelease, button)
 
     def drag(self, start, end, steps=12):
         """Presses at `start`, moves in small steps, and lets go at `end`."""
@@ -87,6 +79,6 @@ class Hands:
         xtest.fake_input(self._display, what, code)
         self._display.sync()
 
-    def _button(self, what):
-        xtest.fake_input(self._display, what, LEFT_BUTTON)
+    def _button(self, what, button=LEFT_BUTTON):
+        xtest.fake_input(self._display, what, button)
         self._display.sync()

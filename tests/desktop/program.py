@@ -66,12 +66,23 @@ class Program:
             return condition()
         return wait.until(holds_while_running, limit, what)
 
+    def wait_until_started(self):
+        """Waits for what it says at every start."""
+        self.wait_until(lambda: any(line in _read(self._output_path) for line in _EXPECTED_LINES),
+                        5.0, "the program has started")
+
+    def wait_for_line(self, line, limit=5.0):
+        self.wait_until(lambda: line in self.output(), limit, f"the program says {line!r}")
+
     def wait_for_icon(self, tray, limit=10.0):
         """The program's icon in a tray."""
         return self.wait_until(lambda: tray.item_of(self.pid), limit, "the icon is in the tray")
 
     def wait_for_bar(self, limit=3.0):
         return self.wait_until(self.bar_frame, limit, "the bar is there")
+
+    def wait_for_picker(self, limit=2.0):
+        return self.wait_until(self.picker_frame, limit, "the picker is open")
 
     def wait_for_bar_at(self, frame, limit=3.0):
         """Waits until the bar is exactly at a place; says where it is when it does not come."""

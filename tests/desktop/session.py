@@ -27,7 +27,7 @@ class Session:
         self._children = []
         self._logs = []
         self.folder = tempfile.mkdtemp(prefix="quillet-")
-        self.size = (width, height)
+        self.has_window_manager = window_manager
         signal.signal(signal.SIGTERM, lambda *_: sys.exit("ended by SIGTERM"))
         try:
             self._make_environment()
@@ -93,6 +93,16 @@ class Session:
         return self.bus.call_sync(name, path, interface, method, arguments,
                                   GLib.VariantType(answer) if answer else None,
                                   Gio.DBusCallFlags.NONE, CALL_LIMIT, None)
+
+    def files_of_home(self):
+        """Every file below the home folder, settings and caches included."""
+        return [os.path.join(folder, name)
+                for folder, _, names in os.walk(self.environment["HOME"]) for name in names]
+
+    def accessibility_is_on(self):
+        """What the desktop's switch for assistive technology says."""
+        return self.call("org.a11y.Bus", "/org/a11y/bus", "org.freedesktop.DBus.Properties", "Get",
+                         GLib.Variant("(ss)", ("org.a11y.Status", "IsEnabled"))).unpack()[0]
 
     def _make_environment(self):
         home = os.path.join(self.folder, "home")

@@ -34,48 +34,80 @@ class AccessibilityBus:
 
     def focused_text(self, pid, limit=10.0):
         """The text widget of a process that has the focus; waits until there is one."""
-        return wait.until(lambda: self._find_text(pid), limit,
-                          f"process {pid} has a focused text widget")
+        node = self._wait_for(pid, self._is_focused_text, limit, "a focused text widget")
+        return Text(self, *node)
 
-    def _find_text(self, pid):
-        for name, path in self._applications(pid):
-            try:
-                found = self._walk(name, path)
-            except GLib.Error:
-                continue  # The tree changed under our feet: the next look finds it whole.
-            if found:
-                return found
+    def text_containing(self, words, limit=10.0):
+        """The focused text widget of whichever process, once it holds these words."""
+        def found():
+            for name, path in self._roots():
+                node = self._find_below((name, path), lambda *node: self._is_focused_text(*node)
+                                        and words in Text(self, *node).content())
+                if node:
+                    return Text(self, *node)
+            return None
+        return wait.until(found, limit, f"a focused text widget with {words!r}")
+
+    def extents_of(self, pid, label, within, limit=5.0):
+        """Where the widget of a process that bears a name is on the screen, in pixels; its middle
+        lies in the rectangle `within`."""
+        def is_wanted(*node):
+            return (self._name(*node) == label and self._has_state(*node, SHOWING)
+                    and within.contains(*self._extents(*node).centre))
+        return self._extents(*self._wait_for(pid, is_wanted, limit, f"a widget {label!r}"))
+
+    def _extents(self, name, path):
+        return Rect(*self.call(name, path, "org.a11y.atspi.Component", "GetExtents",
+                               GLib.Variant("(u)", (ON_SCREEN,)))[0])
+
+    def _wait_for(self, pid, is_wanted, limit, what):
+        return wait.until(lambda: self._find(pid, is_wanted), limit, f"process {pid} has {what}")
+
+    def _find(self, pid, is_wanted):
+        for root in self._roots():
+            node = self._find_below(root, is_wanted) if self._pid(root) == pid else None
+            if node:
+                return node
         return None
 
-    def _applications(self, pid):
-        roots = self.call("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root",
-                          _ACCESSIBLE, "GetChildren")[0]
-        for name, path in roots:
-            try:
-                if self.call("org.freedesktop.DBus", "/org/freedesktop/DBus",
-                             "org.freedesktop.DBus", "GetConnectionUnixProcessID",
-                             GLib.Variant("(s)", (name,)))[0] == pid:
-                    yield name, path
-            except GLib.Error:
-                continue
+    def _find_below(self, root, is_wanted):
+        try:
+            return next((node for node in self._walk(root) if is_wanted(*node)), None)
+        except GLib.Error:
+            return None  # The tree changed under our feet: the next look finds it whole.
 
-    def _walk(self, name, path):
-        waiting = deque([(name, path)])
+    def _roots(self):
+        return self.call("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root",
+                         _ACCESSIBLE, "GetChildren")[0]
+
+    def _pid(self, root):
+        try:
+            return self.call("org.freedesktop.DBus", "/org/freedesktop/DBus",
+                             "org.freedesktop.DBus", "GetConnectionUnixProcessID",
+                             GLib.Variant("(s)", (root[0],)))[0]
+        except GLib.Error:
+            return None  # It has just gone.
+
+    def _walk(self, root):
+        waiting = deque([root])
         for _ in range(MOST_NODES):
             if not waiting:
-                return None
+                return
             node = waiting.popleft()
-            if self._is_focused(*node) and self._has_text(*node):
-                return Text(self, *node)
+            yield node
             waiting.extend(self.call(*node, _ACCESSIBLE, "GetChildren")[0])
-        return None
 
-    def _is_focused(self, name, path):
+    def _has_state(self, name, path, state):
         low, _ = self.call(name, path, _ACCESSIBLE, "GetState")[0]
-        return bool(low & (1 << FOCUSED))
+        return bool(low & (1 << state))
 
-    def _has_text(self, name, path):
-        return _TEXT in self.call(name, path, _ACCESSIBLE, "GetInterfaces")[0]
+    def _is_focused_text(self, name, path):
+        return self._has_state(name, path, FOCUSED) and _TEXT in self.call(
+            name, path, _ACCESSIBLE, "GetInterfaces")[0]
+
+    def _name(self, name, path):
+        return self.call(name, path, "org.freedesktop.DBus.Properties", "Get",
+                         GLib.Variant("(ss)", (_ACCESSIBLE, "Name")))[0]
 
 
 class Text:

@@ -57,10 +57,11 @@ class Tray:
         self._signal("StatusNotifierHostRegistered", None)
 
     def close(self):
-        """The tray goes, as when a panel crashes."""
+        """The tray goes, as when a panel crashes. Safe to call twice."""
         self._loop.quit()
         self._thread.join(5.0)
-        self._bus.close_sync(None)
+        if not self._bus.is_closed():
+            self._bus.close_sync(None)
 
     def items_of(self, pid):
         """The icons of a process."""

@@ -3,6 +3,7 @@
 from dataclasses import dataclass
 
 from Xlib import X, Xatom, display, error
+from Xlib.protocol import event
 
 
 @dataclass(frozen=True)
@@ -24,6 +25,9 @@ class Rect:
     @property
     def centre(self):
         return self.x + self.width / 2, self.y + self.height / 2
+
+    def contains(self, x, y):
+        return self.x <= x < self.right and self.y <= y < self.bottom
 
     def __str__(self):
         return f"{self.width}x{self.height}+{self.x}+{self.y}"
@@ -49,8 +53,28 @@ class Windows:
                 continue  # It went away between the two questions.
         return found
 
+    def embedded_of(self, pid):
+        """The frame of a mapped window of a process that stands inside another's, or None."""
+        waiting = [child for window in self._root.query_tree().children
+                   for child in self._children(window)]
+        while waiting:
+            window = waiting.pop()
+            try:
+                # A window manager's border holds managed windows: they are no embedded ones.
+                if (self._pid(window) == pid and window.get_attributes().map_state == X.IsViewable
+                        and window.id not in [client.id for client in self.clients()]):
+                    return self.frame(window)
+                waiting.extend(self._children(window))
+            except error.XError:
+                continue
+        return None
+
     def clients(self):
-        """The windows that the window manager handles, oldest first."""
+        """The windows that the window manager handles, oldest first; without one, the mapped
+        windows that it would handle."""
+        if not self._cardinals(self._root, "_NET_SUPPORTING_WM_CHECK"):
+            return [window for window in self._root.query_tree().children
+                    if self._is_ordinary(window)]
         return [self._display.create_resource_object("window", identifier)
                 for identifier in self._cardinals(self._root, "_NET_CLIENT_LIST")]
 
@@ -106,18 +130,25 @@ class Windows:
         """What a taskbar asks for when its user clicks a window's entry."""
         self._message(window, "_NET_ACTIVE_WINDOW", [2, X.CurrentTime, 0, 0, 0])
 
-    def maximise(self, window):
-        both = [self._display.intern_atom(f"_NET_WM_STATE_MAXIMIZED_{axis}")
-                for axis in ("VERT", "HORZ")]
-        self._message(window, "_NET_WM_STATE", [1, *both, 2, 0])
+    def focus(self, window):
+        """Gives a window the keyboard where no window manager does so."""
+        window.set_input_focus(X.RevertToParent, X.CurrentTime)
+        self._display.sync()
 
-    def owner_pid_of_selection(self, name):
-        """The process that owns an X selection such as PRIMARY, or None."""
-        owner = self._display.get_selection_owner(self._display.intern_atom(name))
-        return None if owner == X.NONE else self._pid(owner)
+    def _is_ordinary(self, window):
+        try:
+            attributes = window.get_attributes()
+            return attributes.map_state == X.IsViewable and not attributes.override_redirect
+        except error.XError:
+            return False
+
+    def _children(self, window):
+        try:
+            return window.query_tree().children
+        except error.XError:
+            return []
 
     def _message(self, window, name, values):
-        from Xlib.protocol import event
         message = event.ClientMessage(window=window, client_type=self._display.intern_atom(name),
                                       data=(32, values))
         self._root.send_event(message, event_mask=X.SubstructureRedirectMask

@@ -1,0 +1,57 @@
+"""A window of our own with a plain field and a password field, as a foreign application has them.
+
+Started by itself: entries.py plain|password gives the focus to that field.
+"""
+
+import os
+import sys
+
+WORDS = "open sesame"
+
+_DESKTOP_FILE = """[Desktop Entry]
+Type=Application
+Name=Two Fields
+Exec={executable}
+StartupWMClass=two-fields
+"""
+
+
+class Entries:
+    """The window as a process of its own, with one of its fields focused."""
+
+    def __init__(self, desktop, field):
+        import wait
+        folder = os.path.join(desktop.session.environment["XDG_DATA_HOME"], "applications")
+        os.makedirs(folder, exist_ok=True)
+        with open(os.path.join(folder, "two-fields.desktop"), "w", encoding="utf-8") as file:
+            file.write(_DESKTOP_FILE.format(executable=os.path.abspath(__file__)))
+        self.process = desktop.session.start([sys.executable, os.path.abspath(__file__), field])
+        self.window = wait.until(lambda: desktop.windows.client_of(self.process.pid), 10.0,
+                                 "the window with two fields")
+        self.text = desktop.focus(self)
+
+    @property
+    def pid(self):
+        return self.process.pid
+
+
+def _show(focused):
+    import gi
+    gi.require_version("Gtk", "3.0")
+    from gi.repository import GLib, Gtk
+    GLib.set_prgname("two-fields")
+    window = Gtk.Window(title="Two fields", default_width=400)
+    box = Gtk.Box(orientation=Gtk.Orientation.VERTICAL, spacing=60, margin=60)
+    for name, visible in (("plain", True), ("password", False)):
+        field = Gtk.Entry(text=WORDS, visibility=visible)
+        box.add(field)
+        if name == focused:
+            field.grab_focus()
+    window.add(box)
+    window.connect("destroy", Gtk.main_quit)
+    window.show_all()
+    Gtk.main()
+
+
+if __name__ == "__main__":
+    _show(sys.argv[1])

@@ -1,0 +1,83 @@
+"""Large editors and other toolkits, where they are installed; only on request, since they take long.
+
+Set QUILLET_LARGE_APPS=1 to run them.
+"""
+
+import os
+import shutil
+import unittest
+
+import bar
+import wait
+from case import DesktopCase
+from windows import Rect
+
+SCREEN = Rect(0, 0, 1280, 800)
+TEXT = "A plain document with a few words.\n"
+WORDS = "plain"
+
+# Name, command, whether its text view tells where a selection is.
+EDITORS = [
+    ("featherpad", ["featherpad", "--standalone"], True),
+    ("gedit", ["gedit", "--standalone"], True),
+    ("gnome-text-editor", ["gnome-text-editor", "--standalone"], False),
+    ("libreoffice", ["libreoffice", "--norestore", "--nologo", "--writer"], True),
+]
+CHROMIUM = ["--no-sandbox", "--force-renderer-accessibility", "--no-first-run", "--disable-gpu",
+            "--disable-dev-shm-usage", "--window-size=900,600", "--window-position=200,100"]
+START = 60.0  # Seconds that a large application may take to show its document.
+
+
+@unittest.skipUnless(os.environ.get("QUILLET_LARGE_APPS"), "QUILLET_LARGE_APPS is not set")
+class LargeApplicationsTest(DesktopCase):
+
+    def test_editors_of_other_toolkits(self):
+        for name, command, tells_where in EDITORS:
+            if shutil.which(command[0]) is None:
+                continue
+            with self.subTest(name):
+                path = self.desktop.session.path("document.txt")
+                with open(path, "w", encoding="utf-8") as file:
+                    file.write(TEXT)
+                self.work_in(command + [path], tells_where)
+
+    @unittest.skipIf(shutil.which("chromium") is None, "chromium is not installed")
+    def test_a_web_page(self):
+        path = self.desktop.session.path("page.html")
+        with open(path, "w", encoding="utf-8") as file:
+            file.write("<p>An empty line.</p><textarea autofocus rows=8 cols=60>"
+                       f"{TEXT}</textarea>")
+        self.work_in(["chromium", *CHROMIUM, f"file://{path}"], True)
+
+    def work_in(self, command, tells_where):
+        process = self.desktop.session.start(command)
+        try:
+            window = wait.until(self.new_client, START, "its window")
+            self.windows.activate(window)
+            text = self.desktop.accessibility.text_containing(WORDS, START)
+            program = self.start_program(settings={"appearanceDelay": 0})
+            chosen = self.desktop.select(text, WORDS)
+            if tells_where:
+                expected = bar.expected_frame(text.extents(*chosen), SCREEN, first=True)
+                program.wait_for_bar_at(expected)
+            else:
+                frame = program.wait_for_bar()
+                pointer_x, _ = self.hands.pointer()
+                self.assertEqual(frame.x, bar.expected_frame(
+                    Rect(pointer_x - 100, frame.bottom, 200, 20), SCREEN, first=True).x)
+            log = self.key_log()
+            program.click("Bold")
+            log.wait_for(["Control+b"])
+            wait.throughout(lambda: program.bar_frame() is not None, 0.5, "the bar stays")
+            program.end()
+        finally:
+            self.desktop.session.end(process)
+            wait.until(lambda: not self.windows.clients(), 10.0, "its windows are gone")
+
+    def new_client(self):
+        clients = self.windows.clients()
+        return clients[-1] if clients else None
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,115 @@
+"""The menu of the icon, as a desktop's tray reads it over D-Bus; the ways to end the program."""
+
+import signal
+import unittest
+
+import wait
+from case import DesktopCase
+from gnote import Gnote
+from keys import RIGHT_BUTTON
+from tray import Tray
+
+SEPARATOR = "-"
+ENTRIES = [
+    "Corvane Quillet", SEPARATOR, "Status: Ready", SEPARATOR, "Check Accessibility...", SEPARATOR,
+    "Settings...", SEPARATOR, "Auf Updates prüfen …", "Feedback senden …", SEPARATOR,
+    "Quit Corvane Quillet",
+]
+GREY = {"Corvane Quillet", "Status: Ready"}
+
+
+class MenuTest(DesktopCase):
+
+    def test_it_has_its_twelve_entries(self):
+        item = self.start_program().wait_for_icon(self.tray)
+        menu = item.menu()
+        self.assertEqual([SEPARATOR if entry.separator else entry.label for entry in menu],
+                         ENTRIES)
+        self.assertEqual({entry.label for entry in menu
+                          if not entry.separator and not entry.enabled}, GREY)
+        shortcuts = {entry.label: entry.shortcut for entry in menu if entry.shortcut}
+        self.assertEqual(shortcuts, {"Settings...": "Control+,",
+                                     "Quit Corvane Quillet": "Control+Q"})
+
+    def test_the_icon_is_a_picture_with_the_programs_name(self):
+        item = self.start_program().wait_for_icon(self.tray)
+        self.assertTrue(item.icon_sizes())
+        self.assertEqual(item.property("Title"), "Corvane Quillet")
+        self.assertEqual(item.property("Category"), "ApplicationStatus")
+
+    def test_quit_ends_it_with_the_bar(self):
+        note = Gnote(self.desktop, "Quitting", "A few words.")
+        self.addCleanup(self.desktop.session.end, note.process)
+        program = self.start_program(settings={"appearanceDelay": 0})
+        self.desktop.select(note.text, "few")
+        program.wait_for_bar()
+        program.wait_for_icon(self.tray).choose("Quit Corvane Quillet")
+        self.assertEqual(program.wait_for_end(), 0)
+        self.assertEqual(self.windows.floating_of(program.pid), [])
+        wait.until(lambda: not self.tray.items_of(program.pid), 3.0, "the icon is gone")
+
+    def test_the_signals_of_a_session_that_ends_quit_it(self):
+        for number in (signal.SIGTERM, signal.SIGINT):
+            program = self.start_program()
+            program.process.send_signal(number)
+            self.assertEqual(program.wait_for_end(), 0, number.name)
+
+    def test_checking_accessibility_says_that_it_is_granted(self):
+        program = self.start_program()
+        program.wait_for_icon(self.tray).choose("Check Accessibility...")
+        wait.until(lambda: self.windows.client_of(program.pid), 3.0, "the alert is there")
+        alert = self.windows.frame(self.windows.client_of(program.pid))
+        for words in ("Accessibility Access Granted",
+                      "Corvane Quillet has the required accessibility permissions."):
+            self.desktop.accessibility.extents_of(program.pid, words, alert)
+        wait.until(lambda: self.windows.focused_pid() == program.pid, 3.0, "the alert is in front")
+        self.hands.press("Return")
+        wait.until(lambda: not self.windows.client_of(program.pid), 3.0, "the alert is closed")
+        self.assertIsNone(program.process.poll())
+
+    def test_polling_pauses_only_while_the_menu_is_open(self):
+        note = Gnote(self.desktop, "Pausing", "A few words.")
+        self.addCleanup(self.desktop.session.end, note.process)
+        program = self.start_program(settings={"appearanceDelay": 0})
+        item = program.wait_for_icon(self.tray)
+        item.open()
+        self.desktop.select(note.text, "few")
+        wait.throughout(lambda: program.bar_frame() is None, 0.6, "the bar is hidden")
+        item.close()
+        program.wait_for_bar()
+
+
+class LateTrayTest(DesktopCase):
+    """Desktops whose tray comes late, or comes back after a crash."""
+
+    with_tray = False
+
+    def test_the_icon_appears_once_with_a_tray_that_comes_later_and_with_the_next_one(self):
+        program = self.start_program()
+        program.wait_until_started()
+        for _ in range(2):
+            tray = Tray(self.desktop.session)
+            self.addCleanup(tray.close)
+            item = program.wait_for_icon(tray)
+            self.assertEqual(len(item.menu()), len(ENTRIES))
+            self.assertEqual(len(tray.items_of(program.pid)), 1)
+            tray.close()
+
+    def test_an_old_tray_embeds_the_icon(self):
+        trayer = self.desktop.session.start(["trayer", "--widthtype", "request"])
+        self.addCleanup(self.desktop.session.end, trayer)
+        program = self.start_program()
+        icon = program.wait_until(lambda: self.windows.embedded_of(program.pid), 15.0,
+                                  "the icon is embedded")
+        self.hands.click(*icon.centre, button=RIGHT_BUTTON)
+        menu = program.wait_until(
+            lambda: [frame for _, frame in self.windows.floating_of(program.pid)], 3.0,
+            "the menu is open")
+        self.assertGreater(menu[0].height, 150)
+        self.hands.press("Escape")
+        program.wait_until(lambda: not self.windows.floating_of(program.pid), 3.0,
+                           "the menu is closed")
+
+
+if __name__ == "__main__":
+    unittest.main()

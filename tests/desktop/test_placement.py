@@ -1,0 +1,109 @@
+"""Where the bar goes at the edges of the screen, over a plain editor."""
+
+import unittest
+
+import bar
+from case import DesktopCase
+from mousepad import Mousepad
+from windows import Rect
+
+SCREEN = Rect(0, 0, 1280, 800)
+TEXT = "First line of the document\n" + "\n" * 12 + " " * 80 + "end\n"
+
+
+class PlacementTest(DesktopCase):
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.editor = Mousepad(cls.desktop, TEXT)
+
+    def setUp(self):
+        super().setUp()
+        self.program = None
+
+    def select_at(self, window, words):
+        """Puts the editor somewhere and selects words there; gives the selection's rectangle."""
+        self.editor.place(window)
+        self.desktop.put_caret(self.editor.text, 0)
+        if self.program is None:
+            self.program = self.start_program(settings={"appearanceDelay": 0})
+        return self.editor.text.extents(*self.desktop.select(self.editor.text, words))
+
+    def test_below_a_selection_on_the_screens_first_line(self):
+        selection = self.select_at(Rect(200, 0, 800, 500), "line")
+        self.assertLess(selection.y, bar.HEIGHT + bar.GAP + bar.MARGIN)
+        frame = self.program.wait_for_bar_at(bar.expected_frame(selection, SCREEN, first=True))
+        self.assertEqual(frame.y, selection.bottom + bar.GAP)
+
+    def test_on_the_screen_at_its_right_and_left_edges(self):
+        selection = self.select_at(Rect(200, 200, 1000, 500), "end")
+        self.assertGreater(selection.x, SCREEN.right - bar.FIRST_WIDTH)
+        self.program.wait_for_bar_at(bar.expected_frame(selection, SCREEN, first=True))
+        self.desktop.deselect(self.editor.text)
+        self.program.wait_until_hidden()
+
+        selection = self.select_at(Rect(-4, 200, 800, 500), "First")
+        self.assertLess(selection.x, bar.MARGIN)
+        frame = self.program.wait_for_bar_at(bar.expected_frame(selection, SCREEN, first=False))
+        self.assertEqual(frame.x, bar.MARGIN)
+
+    def test_a_window_that_moves_keeps_its_bar_where_it_was_until_the_text_changes(self):
+        selection = self.select_at(Rect(200, 200, 800, 500), "document")
+        before = self.program.wait_for_bar_at(bar.expected_frame(selection, SCREEN, first=True))
+        self.editor.place(Rect(300, 300, 800, 500))
+        self.assertEqual(self.program.bar_frame(), before)
+        words = self.desktop.select(self.editor.text, "the")
+        self.program.wait_for_bar_at(bar.expected_frame(
+            self.editor.text.extents(*words), SCREEN, first=False))
+
+
+class SecondScreenTest(DesktopCase):
+    """Two screens of different sizes beside one another."""
+
+    LEFT, RIGHT = Rect(0, 0, 1280, 800), Rect(1280, 0, 1024, 768)
+    desktop_options = {"width": 2304, "height": 800,
+                       "monitors": [(1280, 800, 0, 0), (1024, 768, 1280, 0)]}
+
+    def test_the_bar_stays_on_the_screen_of_the_selection(self):
+        editor = Mousepad(self.desktop, TEXT, Rect(1400, 200, 880, 400))
+        program = self.start_program(settings={"appearanceDelay": 0})
+        for words, first in (("document", True), ("end", False)):
+            area = editor.text.extents(*self.desktop.select(editor.text, words))
+            frame = bar.expected_frame(area, self.RIGHT, first)
+            self.assertGreater(area.x, self.RIGHT.x)
+            program.wait_for_bar_at(frame)
+        self.desktop.deselect(editor.text)
+        program.wait_until_hidden()
+
+        editor.place(Rect(380, 200, 880, 400))
+        area = editor.text.extents(*self.desktop.select(editor.text, "end"))
+        frame = program.wait_for_bar_at(bar.expected_frame(area, self.LEFT, first=False))
+        self.assertEqual(frame.right, self.LEFT.right - bar.MARGIN)
+
+
+class DoubleScaleTest(DesktopCase):
+    """A screen with two pixels to the point; the editor draws for itself at one."""
+
+    SCREEN = Rect(0, 0, 2560, 1600)
+    desktop_options = {"width": 2560, "height": 1600}
+
+    def test_the_bar_is_twice_as_large_and_8_points_above_the_picture_of_the_selection(self):
+        editor = Mousepad(self.desktop, TEXT, Rect(500, 700, 1200, 600))
+        program = self.start_program(settings={"appearanceDelay": 0}, scale=2)
+        words = self.desktop.select(editor.text, "document")
+        told = editor.text.extents(*words)
+        frame = program.wait_for_bar_at(bar.expected_frame(told, self.SCREEN, True, scale=2))
+
+        around = Rect(told.x - 30, told.y - 4, told.width + 60, told.height + 20)
+        picture = self.desktop.settled_picture(around)
+        seen = picture.bounds_of(picture.colour(told.x + 1, told.bottom - 2))
+        self.assertEqual(seen.y - frame.bottom, 2 * bar.GAP)
+
+        log = self.key_log()
+        program.click("Monospaced")
+        log.wait_for(["Control+Shift+m"])
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,113 @@
+"""The road of one selection in a real notes application, from the word to its bold letters."""
+
+import time
+import unittest
+
+import bar
+import wait
+from case import DesktopCase
+from gnote import Gnote
+from windows import Rect
+
+BODY = """The quick brown fox jumps over the lazy dog.
+
+Another paragraph has other words to select."""
+
+DELAY = 0.3  # Between the selection's last change and the bar; also between its end and the hiding.
+POLL = 0.25
+SLACK = 0.5  # What a busy machine may take beyond that.
+SCREEN = Rect(0, 0, 1280, 800)
+
+
+class RoadTest(DesktopCase):
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.note = Gnote(cls.desktop, "The road", BODY)
+        cls.text = cls.note.text
+
+    def setUp(self):
+        super().setUp()
+        self.desktop.put_caret(self.text, 0)
+        self.program = self.start_program()
+
+    def expected(self, words, first):
+        return bar.expected_frame(self.text.extents(*words), SCREEN, first)
+
+    def test_a_word_selected_by_keys_brings_the_bar_after_the_delay(self):
+        words = self.desktop.select(self.text, "brown")
+        selected = time.monotonic()
+        frame = self.program.wait_for_bar()
+        took = time.monotonic() - selected
+        self.assertGreater(took, DELAY - 0.1)
+        self.assertLess(took, DELAY + POLL + SLACK)
+        self.assertEqual(frame, self.expected(words, first=True))
+        self.assert_at_work_in(self.note)
+
+    def test_the_bar_stands_8_points_above_what_the_picture_shows_selected(self):
+        words = self.desktop.select_by_dragging(self.text, "lazy")
+        frame = self.program.wait_for_bar()
+        told = self.text.extents(*words)
+        around = Rect(told.x - 30, told.y - 4, told.width + 60, told.height + 20)
+        picture = self.desktop.settled_picture(around)
+        seen = picture.bounds_of(picture.colour(told.x + 1, told.bottom - 2))
+        self.assertEqual(seen.y - frame.bottom, bar.GAP)
+        self.assertEqual(frame.x, seen.x)
+
+    def test_bold_makes_the_word_bold_and_leaves_the_rest_alone(self):
+        words = self.desktop.select(self.text, "brown")
+        frame = self.program.wait_for_bar()
+        content = self.text.content()
+        self.assertFalse(self.text.is_bold(*words))
+        log = self.key_log()
+        self.program.click("Bold")
+        log.wait_for(["Control+b"])
+        wait.until(lambda: self.text.is_bold(*words), 3.0, "the word is bold")
+        self.assertFalse(self.text.is_bold(words[1], words[1] + 4))
+        self.assertEqual(self.text.content(), content)
+        self.assertEqual(self.text.selection(), words)
+        self.assert_at_work_in(self.note)
+        wait.throughout(lambda: self.program.bar_frame() == frame, 0.8, "the bar stays")
+        wait.until(lambda: "<bold>brown</bold>" in self.note.saved(), 10.0, "the note is saved")
+
+    def test_deselecting_hides_the_bar_after_the_grace_time(self):
+        self.desktop.select(self.text, "paragraph")
+        self.program.wait_for_bar()
+        self.desktop.deselect(self.text)
+        deselected = time.monotonic()
+        self.program.wait_until_hidden()
+        took = time.monotonic() - deselected
+        self.assertGreater(took, DELAY - 0.1)
+        self.assertLess(took, DELAY + POLL + SLACK)
+
+    def test_extending_the_selection_moves_the_bar_without_hiding_it(self):
+        start = self.text.offset_of("quick")
+        end = start + len("quick")
+        self.desktop.put_caret(self.text, end)
+        self.hands.repeat("Shift+Left", end - start)
+        self.program.wait_for_bar_at(self.expected((start, end), first=True))
+        self.hands.repeat("Shift+Left", len("The "))
+        extended = self.expected((start - len("The "), end), first=False)
+
+        def moved():
+            frame = self.program.bar_frame()
+            self.assertIsNotNone(frame, "the bar was hidden on its way")
+            return frame == extended
+
+        self.program.wait_until(moved, 3.0, f"the bar is at {extended}")
+
+    def test_every_button_is_where_its_name_is_told(self):
+        for words, wide in (("quick", False), ("other", True)):
+            self.desktop.select(self.text, words)
+            frame = self.program.wait_for_bar_at(
+                self.expected(self.text.selection(), first=not wide))
+            for name in bar.BUTTONS:
+                told = self.desktop.accessibility.extents_of(self.program.pid, name, frame)
+                middle = bar.button(name, frame).centre
+                self.assertTrue(told.contains(*middle), f"{name}: {told} without {middle}")
+                self.assertEqual(told.height, 26, name)
+
+
+if __name__ == "__main__":
+    unittest.main()
