@@ -13,7 +13,7 @@
 namespace {
 
 constexpr int columns = 8;
-constexpr QSize cell(214, 96);
+constexpr QSize cell(232, 96);
 constexpr double pointSizes[] = {14, 16, 32, 64};
 
 struct Appearance {
@@ -37,11 +37,9 @@ QImage tinted(const QImage& mask, const QColor& color) {
     QImage image(mask.size(), QImage::Format_ARGB32_Premultiplied);
     image.fill(color);
     image.setDevicePixelRatio(mask.devicePixelRatio());
-    QImage alpha = mask;
-    alpha.setDevicePixelRatio(mask.devicePixelRatio());
     QPainter painter(&image);
     painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
-    painter.drawImage(QPointF(), alpha);
+    painter.drawImage(QPointF(), mask);
     return image;
 }
 
