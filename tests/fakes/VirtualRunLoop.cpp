@@ -68,6 +68,9 @@ void VirtualRunLoop::dispatchInBackground(std::function<void()> work,
 void VirtualRunLoop::sleep(platform::Seconds duration) {
     sleeps.push_back(duration.count());
     now_ += duration.count();
+    if (duringSleep) {
+        duringSleep();
+    }
 }
 
 } // namespace fakes

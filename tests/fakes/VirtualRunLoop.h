@@ -25,6 +25,9 @@ public:
     /// Every blocking sleep, in seconds.
     std::vector<double> sleeps;
 
+    /// What others do while the program sleeps.
+    std::function<void()> duringSleep;
+
     core::Registration scheduleRepeating(platform::Seconds interval, platform::RunLoopMode mode,
                                          std::function<void()> handler) override;
     core::Registration scheduleOnce(platform::Seconds delay, platform::RunLoopMode mode,

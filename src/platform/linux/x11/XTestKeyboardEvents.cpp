@@ -1,0 +1,152 @@
+#include "platform/linux/x11/XTestKeyboardEvents.h"
+
+#include "core/Log.h"
+#include "platform/linux/x11/XcbConnection.h"
+
+#include <xcb/xtest.h>
+
+#include <ranges>
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+constexpr Seconds pollInterval{0.01};
+constexpr int mostPolls = 50;
+
+struct XTestKeyEvent final : KeyEvent {
+    XTestKeyEvent(KeyCode k, KeyDirection d)
+        : key(k)
+        , direction(d) {}
+    void setFlags(std::uint64_t f) override { flags = f; }
+
+    KeyCode key;
+    KeyDirection direction;
+    std::uint64_t flags = 0;
+};
+
+} // namespace
+
+XTestKeyboardEvents::XTestKeyboardEvents(XcbConnection& connection, RunLoop& runLoop,
+                                         OwnKeyStrokes& ownStrokes)
+    : connection_(connection)
+    , runLoop_(runLoop)
+    , ownStrokes_(ownStrokes)
+    , keyboard_(connection) {
+    if (keyboard_.canPost()) {
+        releaseStaleKeys();
+    } else {
+        core::log(u"the X server cannot post keys");
+    }
+}
+
+std::unique_ptr<EventSource> XTestKeyboardEvents::createSource(EventSourceState) {
+    return std::make_unique<EventSource>();
+}
+
+std::unique_ptr<KeyEvent> XTestKeyboardEvents::createKeyEvent(const EventSource*, KeyCode key,
+                                                              KeyDirection direction) {
+    if (!keyboard_.canPost() || !scanCode(key)) {
+        return nullptr;
+    }
+    return std::make_unique<XTestKeyEvent>(key, direction);
+}
+
+void XTestKeyboardEvents::post(const KeyEvent& event, EventTap) {
+    const auto& keyEvent = static_cast<const XTestKeyEvent&>(event);
+    const auto begun = std::exchange(pending_, std::nullopt);
+    switch (keyEvent.direction) {
+    case KeyDirection::Down:
+        pending_ = Shortcut{keyEvent.key, keyEvent.flags};
+        break;
+    case KeyDirection::Up:
+        if (begun && begun->key == keyEvent.key) {
+            postShortcut(*begun);
+        }
+        break;
+    }
+}
+
+void XTestKeyboardEvents::postShortcut(const Shortcut& shortcut) {
+    Keymap keymap;
+    std::optional<ModifierMapping> mapping;
+    for (int polls = 0; polls <= mostPolls;) {
+        const auto state = keyboard_.state();
+        if (!state) {
+            core::log(u"shortcut not posted — the X server does not answer");
+            return;
+        }
+        if (state->modifiersHeld) {
+            runLoop_.sleep(pollInterval);
+            ++polls;
+            continue;
+        }
+        if (keymap && mapping) {
+            if (const auto strokes = chord(shortcut, keymap, *mapping, state->group)) {
+                send(*strokes);
+            } else {
+                core::log(u"shortcut not posted — the keyboard layout has no key for it");
+            }
+            return;
+        }
+        // Reading these takes a while in which a modifier may go down: the state is asked again.
+        mapping = ModifierMapping::read(connection_);
+        keymap = keyboard_.postingKeymap();
+        if (!keymap || !mapping) {
+            core::log(u"shortcut not posted — the X server does not tell its keyboard layout");
+            return;
+        }
+    }
+    core::log(u"shortcut not posted — modifier keys are held");
+}
+
+std::optional<std::vector<KeyStroke>> XTestKeyboardEvents::chord(const Shortcut& shortcut,
+                                                                 const Keymap& keymap,
+                                                                 const ModifierMapping& mapping,
+                                                                 xkb_layout_index_t group) const {
+    const auto key = KeyboardLayout(keymap, group).keyFor(shortcut.key);
+    const auto modifiers = mapping.keysFor(shortcut.flags);
+    if (!key || !modifiers) {
+        return std::nullopt;
+    }
+    std::vector<KeyStroke> strokes;
+    for (const ScanCode modifier : *modifiers) {
+        strokes.push_back({modifier, KeyDirection::Down});
+    }
+    strokes.push_back({*key, KeyDirection::Down});
+    strokes.push_back({*key, KeyDirection::Up});
+    for (const ScanCode modifier : *modifiers | std::views::reverse) {
+        strokes.push_back({modifier, KeyDirection::Up});
+    }
+    return strokes;
+}
+
+void XTestKeyboardEvents::send(const std::vector<KeyStroke>& strokes) {
+    // With nothing else buffered the strokes fit into one write, and a local socket takes a write
+    // of this size whole or not at all.
+    xcb_flush(connection_.get());
+    for (const auto& [key, direction] : strokes) {
+        const std::uint8_t type = direction == KeyDirection::Down ? XCB_KEY_PRESS : XCB_KEY_RELEASE;
+        const auto request =
+            xcb_test_fake_input(connection_.get(), type, key, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
+        ownStrokes_.add(request.sequence, {key, direction});
+    }
+    xcb_flush(connection_.get());
+}
+
+void XTestKeyboardEvents::releaseStaleKeys() {
+    const KeySet down = keyboard_.postedKeysDown();
+    std::vector<KeyStroke> releases;
+    for (std::size_t key = 0; key < down.size(); ++key) {
+        if (down.test(key)) {
+            releases.push_back({static_cast<ScanCode>(key), KeyDirection::Up});
+        }
+    }
+    if (!releases.empty()) {
+        core::log(u"released keys that an earlier program had left down");
+        send(releases);
+    }
+}
+
+} // namespace platform

@@ -1,0 +1,75 @@
+#include "platform/linux/x11/HeldModifiers.h"
+
+#include <gtest/gtest.h>
+
+namespace flags = platform::modifierFlags;
+
+using platform::KeyDirection;
+using platform::KeySet;
+using platform::KeyStroke;
+using platform::ModifierMapping;
+
+namespace {
+
+constexpr platform::ScanCode leftControl = 37;
+constexpr platform::ScanCode rightControl = 105;
+constexpr platform::ScanCode leftShift = 50;
+constexpr platform::ScanCode capsLock = 66;
+constexpr platform::ScanCode leftAlt = 64;
+constexpr platform::ScanCode keyB = 56;
+
+// Shift, Lock, Control, Mod1 to Mod5, with gaps as servers send them; no key for Mod4.
+constexpr std::uint8_t rows[] = {
+    leftShift, 62, capsLock, 0, leftControl, rightControl, 0, leftAlt, 77, 0, 0, 0, 0, 0, 92, 0};
+
+ModifierMapping mapping() {
+    return ModifierMapping(rows, 2);
+}
+
+} // namespace
+
+TEST(ModifierMapping, GivesTheKeysOfAShortcutInTheOrderOfPressing) {
+    EXPECT_EQ(mapping().keysFor(flags::shift | flags::command),
+              (std::vector<platform::ScanCode>{leftControl, leftShift}));
+    EXPECT_EQ(mapping().keysFor(flags::option), std::vector<platform::ScanCode>{leftAlt});
+    EXPECT_EQ(mapping().keysFor(0x100), std::vector<platform::ScanCode>{});
+    EXPECT_EQ(mapping().keysFor(flags::control | flags::command), std::nullopt);
+    EXPECT_EQ(ModifierMapping().keysFor(flags::shift), std::nullopt);
+}
+
+TEST(HeldModifiers, CountKeysOfBothSidesThatWereDownBeforeOrWentDownSince) {
+    platform::HeldModifiers held(mapping(), KeySet().set(rightControl));
+    const auto press = [&](platform::ScanCode key) {
+        return held.handle({key, KeyDirection::Down});
+    };
+    const auto flagsOfB = [&] {
+        return press(keyB).value_or(platform::KeyDownEvent{}).modifierFlags;
+    };
+
+    EXPECT_EQ(flagsOfB(), flags::command);
+    EXPECT_EQ(press(leftControl), std::nullopt);
+    EXPECT_EQ(press(leftAlt), std::nullopt);
+    EXPECT_EQ(held.handle({rightControl, KeyDirection::Up}), std::nullopt);
+    EXPECT_EQ(flagsOfB(), flags::command | flags::option);
+    EXPECT_EQ(press(capsLock), std::nullopt);
+    EXPECT_EQ(held.handle({leftControl, KeyDirection::Up}), std::nullopt);
+    EXPECT_EQ(flagsOfB(), flags::option);
+    EXPECT_EQ(held.handle({keyB, KeyDirection::Up}), std::nullopt);
+    // A key without a virtual key code.
+    EXPECT_EQ(press(172), std::nullopt);
+}
+
+TEST(OwnKeyStrokes, AreToldFromTheUsersByTheirRequest) {
+    const KeyStroke down{keyB, KeyDirection::Down};
+    const KeyStroke up{keyB, KeyDirection::Up};
+    platform::OwnKeyStrokes own;
+    own.add(10, down);
+    own.add(11, up);
+    EXPECT_FALSE(own.take(9, down));
+    // The user's stroke between the two carries the number of the first.
+    EXPECT_FALSE(own.take(10, {leftShift, KeyDirection::Down}));
+    EXPECT_TRUE(own.take(10, down));
+    EXPECT_FALSE(own.take(10, down));
+    EXPECT_TRUE(own.take(11, up));
+    EXPECT_FALSE(own.take(11, up));
+}

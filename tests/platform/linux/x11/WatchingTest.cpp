@@ -1,0 +1,202 @@
+#include "XKeyboardFixture.h"
+#include "platform/linux/x11/XInputEvents.h"
+#include "platform/linux/x11/XInputKeyMonitor.h"
+#include "platform/linux/x11/XInputPointerMonitor.h"
+
+#include <xcb/xinput.h>
+
+#include <optional>
+#include <utility>
+
+namespace desktop {
+
+namespace flags = platform::modifierFlags;
+
+class WatchingTest : public XKeyboardTest {
+protected:
+    /// "3:100000" for each key-down since the last call.
+    Keys takeKeyDowns() {
+        deliver();
+        return std::exchange(keyDowns, {});
+    }
+
+    void deliver() {
+        settle(*connection);
+        connection->dispatchEvents();
+    }
+
+    core::Registration watchKeys() {
+        return keyMonitor.addKeyDownMonitor([this](const platform::KeyDownEvent& event) {
+            keyDowns.push_back(QStringLiteral("%1:%2")
+                                   .arg(event.keyCode)
+                                   .arg(event.modifierFlags, 0, 16)
+                                   .toStdString());
+        });
+    }
+
+    /// The events that the server sends us for all masters, as a mask.
+    std::uint32_t selectedEvents() {
+        const auto reply = connection->reply<xcb_input_xi_get_selected_events_reply_t>(
+            xcb_input_xi_get_selected_events(connection->get(), connection->root()));
+        auto masks = xcb_input_xi_get_selected_events_masks_iterator(reply.get());
+        return masks.rem > 0 ? *xcb_input_event_mask_mask(masks.data) : 0;
+    }
+
+    bool ownApplicationIsActive = false;
+    Keys keyDowns;
+    std::shared_ptr<platform::XInputEvents> events =
+        platform::XInputEvents::create(*connection, ownStrokes);
+    platform::XInputKeyMonitor keyMonitor{*connection, events,
+                                          [this] { return ownApplicationIsActive; }};
+    platform::XInputPointerMonitor pointerMonitor{
+        *connection, events, [](platform::PixelPoint pixel) {
+            return platform::Point{pixel.x + 0.5, pixel.y + 0.5};
+        }};
+};
+
+TEST_F(WatchingTest, SeesKeysWithTheirModifiersWhileAnotherProgramHoldsAGrab) {
+    const auto watch = watchKeys();
+    auto* other = application.display().get();
+    const platform::XcbPointer<xcb_grab_keyboard_reply_t> grab(
+        xcb_grab_keyboard_reply(other,
+                                xcb_grab_keyboard(other, 1, application.window(), XCB_CURRENT_TIME,
+                                                  XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),
+                                nullptr));
+    ASSERT_TRUE(grab && grab->status == XCB_GRAB_STATUS_SUCCESS);
+    user.tap(keyB);
+    user.press(rightControl);
+    user.press(leftAlt);
+    user.tap(keyB);
+    user.release(rightControl);
+    user.press(leftSuper);
+    user.press(rightShift);
+    user.tap(escapeKey);
+    EXPECT_EQ(takeKeyDowns(), (Keys{"11:0", "11:180000", "53:e0000"}));
+}
+
+TEST_F(WatchingTest, KnowsTheModifiersThatWereDownBeforeAndForgetsLocks) {
+    user.press(leftControl);
+    user.tap(capsLock);
+    const auto watch = watchKeys();
+    user.tap(keyB);
+    EXPECT_EQ(takeKeyDowns(), Keys{"11:100000"});
+    user.tap(capsLock);
+}
+
+TEST_F(WatchingTest, OwnShortcutsAreNotTheUsers) {
+    const auto watch = watchKeys();
+    // The same strokes, through the same device.
+    user.press(leftControl);
+    user.tap(keyB);
+    user.release(leftControl);
+    post(11, flags::command);
+    user.tap(keyB);
+    EXPECT_EQ(takeKeyDowns(), (Keys{"11:100000", "11:0"}));
+    EXPECT_EQ(application.takeKeys().size(), 10U);
+}
+
+TEST_F(WatchingTest, KeysForThisProgramAreNotReportedButTheirModifiersCount) {
+    const auto watch = watchKeys();
+    ownApplicationIsActive = true;
+    user.press(leftShift);
+    user.tap(keyB);
+    EXPECT_EQ(takeKeyDowns(), Keys{});
+    ownApplicationIsActive = false;
+    user.tap(keyB);
+    EXPECT_EQ(takeKeyDowns(), Keys{"11:20000"});
+}
+
+TEST_F(WatchingTest, AHeldKeyIsReportedOnce) {
+    run(QStringLiteral("xset"),
+        {QStringLiteral("r"), QStringLiteral("rate"), QStringLiteral("20"), QStringLiteral("100")});
+    const auto watch = watchKeys();
+    user.press(keyB);
+    ASSERT_TRUE(application.waitForKeys(5)) << "the server does not repeat";
+    user.release(keyB);
+    EXPECT_EQ(takeKeyDowns(), Keys{"11:0"});
+}
+
+TEST_F(WatchingTest, FollowsAChangedTableOfModifiers) {
+    const auto watch = watchKeys();
+    run(QStringLiteral("xmodmap"),
+        {QStringLiteral("-e"), QStringLiteral("remove Lock = Caps_Lock"), QStringLiteral("-e"),
+         QStringLiteral("add Control = Caps_Lock")});
+    user.press(capsLock);
+    user.tap(keyB);
+    user.release(capsLock);
+    EXPECT_EQ(takeKeyDowns(), Keys{"11:100000"});
+    run(QStringLiteral("setxkbmap"), {QStringLiteral("us")});
+}
+
+TEST_F(WatchingTest, TheServerIsAskedOnlyWhileSomebodyListens) {
+    EXPECT_EQ(selectedEvents(), 0U);
+    auto keys = watchKeys();
+    constexpr std::uint32_t keyEvents =
+        XCB_INPUT_XI_EVENT_MASK_RAW_KEY_PRESS | XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE;
+    EXPECT_EQ(selectedEvents(), keyEvents);
+    auto picker = pointerMonitor.addDismissMonitor([](const platform::DismissEvent&) {});
+    EXPECT_EQ(selectedEvents(), keyEvents | XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS);
+    picker.reset();
+    EXPECT_EQ(selectedEvents(), keyEvents);
+    keys.reset();
+    EXPECT_EQ(selectedEvents(), 0U);
+    user.tap(keyB);
+    EXPECT_EQ(takeKeyDowns(), Keys{});
+}
+
+TEST_F(WatchingTest, AWatchMayEndItselfAndAnotherBegin) {
+    core::Registration watch;
+    int calls = 0;
+    watch = keyMonitor.addKeyDownMonitor([&](const platform::KeyDownEvent&) {
+        ++calls;
+        watch = watchKeys();
+    });
+    user.tap(keyB);
+    deliver();
+    user.tap(keyQ);
+    EXPECT_EQ(takeKeyDowns(), Keys{"12:0"});
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(WatchingTest, DismissesByAPressByEscapeAndByAnotherActiveWindow) {
+    Keys dismissals;
+    const auto take = [&] {
+        deliver();
+        return std::exchange(dismissals, {});
+    };
+    const auto activate = [&](xcb_window_t window) {
+        auto* other = user.display().get();
+        xcb_change_property(other, XCB_PROP_MODE_REPLACE, user.display().root(),
+                            user.display().atom("_NET_ACTIVE_WINDOW"), XCB_ATOM_WINDOW, 32, 1,
+                            &window);
+        settle(user.display());
+    };
+    activate(7);
+    const auto picker = pointerMonitor.addDismissMonitor([&](const platform::DismissEvent& event) {
+        switch (event.reason) {
+        case platform::DismissReason::PointerPressed:
+            dismissals.push_back(std::to_string(event.location.x) + " " +
+                                 std::to_string(event.location.y));
+            break;
+        case platform::DismissReason::EscapePressed:
+            dismissals.emplace_back("escape");
+            break;
+        case platform::DismissReason::ActiveWindowChanged:
+            dismissals.emplace_back("window");
+            break;
+        }
+    });
+    user.movePointer(300, 200);
+    user.click(XCB_BUTTON_INDEX_1);
+    EXPECT_EQ(take(), Keys{"300.500000 200.500000"});
+    user.click(XCB_BUTTON_INDEX_4);
+    user.tap(keyB);
+    activate(7);
+    EXPECT_EQ(take(), Keys{});
+    user.tap(escapeKey);
+    EXPECT_EQ(take(), Keys{"escape"});
+    activate(8);
+    EXPECT_EQ(take(), Keys{"window"});
+}
+
+} // namespace desktop
