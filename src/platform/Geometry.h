@@ -38,6 +38,11 @@ struct Rect {
     /// Whether the two share a point. A rectangle without width or height, such as that of a
     /// caret, intersects what it lies in; rectangles that only touch do not intersect.
     bool intersects(const Rect& other) const;
+
+    /// Whether the point lies inside; a point on the upper or right edge does not.
+    bool contains(Point point) const {
+        return point.x >= minX() && point.x < maxX() && point.y >= minY() && point.y < maxY();
+    }
 };
 
 } // namespace platform

@@ -27,4 +27,7 @@ public:
     virtual Point pointerLocation() = 0;
 };
 
+/// The first screen whose full frame shares a point with `rect`, else the main screen.
+std::optional<Screen> screenShowing(Screens& screens, const Rect& rect);
+
 } // namespace platform

@@ -123,14 +123,15 @@ core::Registration FakeStatusItem::show(const QIcon& icon, const QString& access
 }
 
 void FakeWindowServer::makeFloating(QWidget& window) {
-    window.setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
+    window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     window.setAttribute(Qt::WA_ShowWithoutActivating);
     record.emplace_back("make floating");
 }
 
 void FakeWindowServer::setFrame(QWidget& window, const platform::Rect& frame) {
     frames[&window] = frame;
-    window.setFixedSize(static_cast<int>(frame.width), static_cast<int>(frame.height));
+    window.setGeometry(static_cast<int>(frame.x), static_cast<int>(-frame.maxY()),
+                       static_cast<int>(frame.width), static_cast<int>(frame.height));
 }
 
 platform::Rect FakeWindowServer::frame(const QWidget& window) {

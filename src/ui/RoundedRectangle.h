@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QPainterPath>
+
+namespace ui {
+
+/// A rectangle whose corners are continuous: their curvature grows out of the straight edges
+/// instead of starting at once, as it does at the end of a circle's arc.
+struct RoundedRectangle {
+    /// In points. The corner reaches the same diagonal inset as a circle of this radius.
+    double cornerRadius = 0;
+
+    QPainterPath path(const QRectF& rect) const;
+};
+
+} // namespace ui

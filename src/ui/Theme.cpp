@@ -1,0 +1,104 @@
+#include "ui/Theme.h"
+
+#include <algorithm>
+
+namespace ui {
+
+namespace {
+
+QColor role(const QPalette& palette, QPalette::ColorRole role) {
+    return palette.color(QPalette::Active, role);
+}
+
+QColor faded(QColor color, double alpha) {
+    color.setAlphaF(static_cast<float>(color.alphaF() * alpha));
+    return color;
+}
+
+QColor mixed(const QColor& first, const QColor& second, double share) {
+    const auto between = [share](float a, float b) {
+        return static_cast<float>(a + (b - a) * share);
+    };
+    return QColor::fromRgbF(between(first.redF(), second.redF()),
+                            between(first.greenF(), second.greenF()),
+                            between(first.blueF(), second.blueF()));
+}
+
+/// What lies below shines through only so far that text on the material stays readable: nothing
+/// blurs it.
+QColor material(const QPalette& palette, double lightLift, double darkLift, double alpha) {
+    const double lift = isDark(palette) ? darkLift : lightLift;
+    return faded(mixed(role(palette, QPalette::Window), Qt::white, lift), alpha);
+}
+
+QColor opaque(Color color, const QPalette& palette) {
+    const bool dark = isDark(palette);
+    const auto either = [dark](QRgb light, QRgb night) { return QColor(dark ? night : light); };
+    switch (color) {
+    case Color::Clear:
+        return Qt::transparent;
+    case Color::Label:
+        return role(palette, QPalette::WindowText);
+    case Color::SecondaryLabel:
+        return mixed(role(palette, QPalette::WindowText), role(palette, QPalette::Window), 0.36);
+    case Color::Separator:
+        return faded(role(palette, QPalette::WindowText), dark ? 0.24 : 0.2);
+    case Color::Accent:
+        return role(palette, QPalette::Highlight);
+    case Color::ControlBackground:
+        return role(palette, QPalette::Base);
+    case Color::WindowBackground:
+        return role(palette, QPalette::Window);
+    case Color::HudMaterial:
+        return material(palette, 0.5, 0.04, 0.98);
+    case Color::PopoverMaterial:
+        return material(palette, 0.6, 0.06, 0.985);
+    case Color::Red:
+        return either(0xffe5392f, 0xffff5249);
+    case Color::Orange:
+        return either(0xfff08a00, 0xffffa01f);
+    case Color::Yellow:
+        return either(0xffe9b800, 0xffffd426);
+    case Color::Green:
+        return either(0xff2bb04c, 0xff3bd15f);
+    case Color::Blue:
+        return either(0xff1677f0, 0xff3b95ff);
+    case Color::Purple:
+        return either(0xff9c4bd6, 0xffbf6cf5);
+    }
+    Q_UNREACHABLE();
+}
+
+QFont::Weight fontWeight(Weight weight) {
+    switch (weight) {
+    case Weight::Regular:
+        return QFont::Normal;
+    case Weight::Medium:
+        return QFont::Medium;
+    case Weight::Semibold:
+        return QFont::DemiBold;
+    case Weight::Bold:
+        return QFont::Bold;
+    }
+    Q_UNREACHABLE();
+}
+
+} // namespace
+
+bool isDark(const QPalette& palette) {
+    return role(palette, QPalette::Window).lightnessF() <
+           role(palette, QPalette::WindowText).lightnessF();
+}
+
+QColor color(Tint tint, const QPalette& palette) {
+    return faded(opaque(tint.color, palette), tint.opacity);
+}
+
+QFont font(double pointSize, Weight weight) {
+    QFont font;
+    font.setPixelSize(std::max(1, qRound(pointSize)));
+    font.setWeight(fontWeight(weight));
+    return font;
+}
+
+} // namespace ui

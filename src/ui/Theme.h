@@ -1,0 +1,50 @@
+#pragma once
+
+#include "platform/Symbols.h"
+
+#include <QColor>
+#include <QFont>
+#include <QPalette>
+
+namespace ui {
+
+/// Colours by their meaning. Each follows the desktop's palette, light or dark.
+enum class Color {
+    Clear,
+    Label,
+    SecondaryLabel,
+    Separator,
+    Accent,
+    ControlBackground,
+    WindowBackground,
+    HudMaterial,
+    PopoverMaterial,
+    Red,
+    Orange,
+    Yellow,
+    Green,
+    Blue,
+    Purple,
+};
+
+/// A colour by its meaning, thinned by an opacity from 0 to 1.
+struct Tint {
+    Color color = Color::Clear;
+    double opacity = 1;
+
+    bool operator==(const Tint&) const = default;
+};
+
+using Weight = platform::SymbolWeight;
+
+bool isDark(const QPalette& palette);
+
+/// Read while painting, so that a view follows the palette as it changes. The window that shows
+/// the colour need not be the active one: the colours are always those of an active window.
+QColor color(Tint tint, const QPalette& palette);
+
+/// The desktop's family in a size in points, each of which is one device-independent pixel at any
+/// density. Leaves the family open, so that a widget that is given the font follows the desktop's.
+QFont font(double pointSize, Weight weight);
+
+} // namespace ui
