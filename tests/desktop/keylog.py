@@ -40,10 +40,14 @@ class KeyLog:
         self.close()
 
     def close(self):
+        """Safe to call twice."""
+        if not self._thread.is_alive():
+            return
         self._control.record_disable_context(self._context)
         self._control.flush()
         self._thread.join(5.0)
         self._control.close()
+        self._data.close()
 
     def chords(self):
         """The keys pressed so far that are no modifiers, each with the modifiers held: in the

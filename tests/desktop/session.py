@@ -82,6 +82,11 @@ class Session:
         self._children.append(child)
         return child
 
+    def run(self, command):
+        """Runs a small tool to its end; gives what it printed."""
+        return subprocess.run(command, env=self.environment, stdin=subprocess.DEVNULL, timeout=10,
+                              check=True, text=True, capture_output=True).stdout
+
     def end(self, process):
         """Ends a program that `start` gave."""
         processes.end(process)
@@ -136,11 +141,10 @@ class Session:
         self.environment["DISPLAY"] = f":{number}"
         for index, (monitor_width, monitor_height, x, y) in enumerate(monitors):
             # The first one takes the output, so that no monitor of the server's own is left.
-            subprocess.run(
-                ["xrandr", "--setmonitor", f"screen{index}",
-                 f"{monitor_width}/{monitor_width // 4}x{monitor_height}/{monitor_height // 4}"
-                 f"+{x}+{y}", "screen" if index == 0 else "none"],
-                env=self.environment, timeout=10, check=True, stdout=subprocess.DEVNULL)
+            self.run(["xrandr", "--setmonitor", f"screen{index}",
+                      f"{monitor_width}/{monitor_width // 4}x"
+                      f"{monitor_height}/{monitor_height // 4}+{x}+{y}",
+                      "screen" if index == 0 else "none"])
 
     def _start_bus(self):
         reading, writing = os.pipe()
@@ -161,9 +165,7 @@ class Session:
         wait.until(self._window_manager_is_there, 10.0, "the window manager is up")
 
     def _window_manager_is_there(self):
-        answer = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], text=True,
-                                env=self.environment, timeout=10, capture_output=True, check=True)
-        return "window id" in answer.stdout
+        return "window id" in self.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"])
 
     def _switch_accessibility_on(self):
         """Before any application starts: some look only then."""

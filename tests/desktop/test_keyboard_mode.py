@@ -1,4 +1,4 @@
-"""The stored shortcut: only it brings the bar when the user has chosen so."""
+"""The user's keyboard: the stored shortcut, held modifiers, other layouts."""
 
 import unittest
 
@@ -61,11 +61,61 @@ class KeyboardModeTest(DesktopCase):
         self.assert_no_bar(program)
         self.hands.press("Control+Alt+f")
         program.wait_for_bar_at(self.expected(words, first=True))
-        self.program_makes_bold(program, words)
-
-    def program_makes_bold(self, program, words):
         program.click("Bold")
-        wait.until(lambda: self.text.is_bold(*words), 3.0, "the words are bold")
+        wait.until(lambda: self.text.is_bold(*words), 3.0, "the word is bold")
+
+
+class HeldKeysTest(DesktopCase):
+    """What the user's own fingers do while a shortcut is to be posted."""
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.note = Gnote(cls.desktop, "Fingers", "Bold with Dvorak, never with Shift held down.")
+        cls.text = cls.note.text
+
+    def setUp(self):
+        super().setUp()
+        self.desktop.put_caret(self.text, 0)
+
+    def select_and_wait(self, words):
+        program = self.start_program(settings={"appearanceDelay": 0})
+        chosen = self.desktop.select(self.text, words)
+        program.wait_for_bar()
+        return program, chosen
+
+    def test_a_modifier_that_stays_down_prevents_the_shortcut(self):
+        program, words = self.select_and_wait("Shift")
+        log = self.key_log()
+        self.hands.hold("Shift_L")
+        try:
+            program.click("Bold")
+            program.wait_for_line("Quillet: shortcut not posted — modifier keys are held")
+        finally:
+            self.hands.release("Shift_L")
+        self.assertEqual(log.chords(), [])
+        self.assertFalse(self.text.is_bold(*words))
+
+    def test_a_modifier_that_is_soon_let_go_only_delays_it(self):
+        program, words = self.select_and_wait("never")
+        log = self.key_log()
+        self.hands.hold("Shift_L")
+        try:
+            program.click("Bold")
+            wait.throughout(lambda: log.chords() == [], 0.25, "nothing is posted")
+        finally:
+            self.hands.release("Shift_L")
+        log.wait_for(["Control+b"])
+        wait.until(lambda: self.text.is_bold(*words), 3.0, "the word is bold")
+
+    def test_letters_follow_the_layout(self):
+        self.desktop.session.run(["setxkbmap", "us", "-variant", "dvorak"])
+        self.addCleanup(self.desktop.session.run, ["setxkbmap", "us"])
+        content = self.text.content()
+        program, words = self.select_and_wait("Dvorak")
+        program.click("Bold")
+        wait.until(lambda: self.text.is_bold(*words), 3.0, "the word is bold")
+        self.assertEqual(self.text.content(), content)
 
 
 if __name__ == "__main__":
