@@ -5,7 +5,7 @@ from keys import Hands
 from pictures import Camera
 from session import Session
 from text import AccessibilityBus
-from windows import Windows
+from windows import Rect, Windows
 
 
 class Desktop:
@@ -56,6 +56,20 @@ class Desktop:
         except wait.Timeout:
             pass  # A picture of something that moves is better than none.
         return last
+
+    def highlight_seen(self, told, limit=3.0):
+        """The rectangle that a picture shows highlighted, where an application tells that a
+        selection is. The bar above it is kept out of the picture."""
+        around = Rect(told.x - 30, told.y - 4, told.width + 60, told.height + 20)
+
+        def highlight():
+            picture = self.camera.take(around)
+            colour = picture.colour(told.x + 1, told.bottom - 2)
+            if colour == picture.colour(told.x - 10, told.bottom - 2):
+                return None  # Not drawn yet.
+            return picture.bounds_of(colour)
+
+        return wait.until(highlight, limit, f"something is highlighted at {told}")
 
     def put_caret(self, text, offset):
         """Moves the caret by keys alone; nothing is selected afterwards."""

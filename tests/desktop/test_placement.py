@@ -95,9 +95,7 @@ class DoubleScaleTest(DesktopCase):
         told = editor.text.extents(*words)
         frame = program.wait_for_bar_at(bar.expected_frame(told, self.SCREEN, True, scale=2))
 
-        around = Rect(told.x - 30, told.y - 4, told.width + 60, told.height + 20)
-        picture = self.desktop.settled_picture(around)
-        seen = picture.bounds_of(picture.colour(told.x + 1, told.bottom - 2))
+        seen = self.desktop.highlight_seen(told)
         self.assertEqual(seen.y - frame.bottom, 2 * bar.GAP)
 
         log = self.key_log()

@@ -49,9 +49,7 @@ class RoadTest(DesktopCase):
         words = self.desktop.select_by_dragging(self.text, "lazy")
         frame = self.program.wait_for_bar()
         told = self.text.extents(*words)
-        around = Rect(told.x - 30, told.y - 4, told.width + 60, told.height + 20)
-        picture = self.desktop.settled_picture(around)
-        seen = picture.bounds_of(picture.colour(told.x + 1, told.bottom - 2))
+        seen = self.desktop.highlight_seen(told)
         self.assertEqual(seen.y - frame.bottom, bar.GAP)
         self.assertEqual(frame.x, seen.x)
 
@@ -96,6 +94,21 @@ class RoadTest(DesktopCase):
             return frame == extended
 
         self.program.wait_until(moved, 3.0, f"the bar is at {extended}")
+
+    def test_its_corners_show_what_lies_below_and_a_button_tells_its_name_under_the_pointer(self):
+        before = self.desktop.settled_picture()
+        self.desktop.select(self.text, "words")
+        frame = self.program.wait_for_bar()
+        after = self.desktop.settled_picture()
+        for x in (frame.x, frame.right - 1):
+            for y in (frame.y, frame.bottom - 1):
+                self.assertEqual(after.colour(x, y), before.colour(x, y), (x, y))
+        self.assertNotEqual(after.colour(*frame.centre), before.colour(*frame.centre))
+
+        self.hands.move(*self.program.point_of("Italic"))
+        windows = lambda: self.windows.floating_of(self.program.pid)
+        self.program.wait_until(lambda: len(windows()) == 2, 3.0, "the tooltip is there")
+        self.assert_at_work_in(self.note)
 
     def test_every_button_is_where_its_name_is_told(self):
         for words, wide in (("quick", False), ("other", True)):

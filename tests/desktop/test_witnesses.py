@@ -5,7 +5,6 @@ import unittest
 import wait
 from desktop import Desktop
 from gnote import Gnote
-from windows import Rect
 
 
 class WitnessesTest(unittest.TestCase):
@@ -27,10 +26,7 @@ class WitnessesTest(unittest.TestCase):
     def test_the_extents_of_a_selection_are_where_the_picture_shows_it(self):
         word = self.desktop.select_by_dragging(self.note.text, "others")
         told = self.note.text.extents(*word)
-        around = Rect(told.x - 40, told.y - 20, told.width + 80, told.height + 40)
-        picture = self.desktop.settled_picture(around)
-        seen = picture.bounds_of(picture.colour(told.x + 1, told.y + 1))
-        self.assertEqual(seen, told)
+        self.assertEqual(self.desktop.highlight_seen(told), told)
 
 
 if __name__ == "__main__":

@@ -1,0 +1,50 @@
+"""Every button of the bar, clicked over a field of a foreign application."""
+
+import unittest
+
+import bar
+from case import DesktopCase
+from entries import Entries
+from keylog import KeyLog
+
+# What arrives at the application on a US keyboard.
+SHORTCUTS = {
+    "Bold": "Control+b",
+    "Italic": "Control+i",
+    "Underline": "Control+u",
+    "Strikethrough": "Control+Shift+x",
+    "Text Color": "Control+Shift+c",
+    "Monospaced": "Control+Shift+m",
+    "Link": "Control+k",
+    "Bullet List": "Control+Shift+7",
+    "Dashed List": "Control+Shift+8",
+    "Numbered List": "Control+Shift+9",
+    "Checklist": "Control+Shift+l",
+    "Decrease Indent": "Control+;",
+    "Increase Indent": "Control+'",
+    "Decrease Text Size": "Control+/",
+    "Increase Text Size": "Control+]",
+    "Remove Formatting": "Control+Shift+b",
+}
+
+
+class ShortcutsTest(DesktopCase):
+
+    def test_each_button_posts_its_shortcut_once_also_where_its_edge_is_cut_off(self):
+        self.assertEqual([name for name in bar.BUTTONS if name != "Heading"], list(SHORTCUTS))
+        entries = Entries(self.desktop, "plain")
+        program = self.start_program(settings={"appearanceDelay": 0})
+        self.hands.press("Control+a")
+        first = program.wait_for_bar()
+        self.assertEqual(first.width, bar.FIRST_WIDTH)
+        for name, chord in SHORTCUTS.items():
+            with KeyLog(self.desktop.session.display) as log:
+                program.click(name)
+                log.wait_for([chord])
+        self.assertEqual(program.bar_frame(), first)
+        self.assert_at_work_in(entries)
+        self.assertEqual(program.output(), [])
+
+
+if __name__ == "__main__":
+    unittest.main()
