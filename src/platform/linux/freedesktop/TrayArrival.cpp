@@ -1,5 +1,7 @@
 #include "platform/linux/freedesktop/TrayArrival.h"
 
+#include "core/Log.h"
+
 #include <utility>
 
 namespace platform {
@@ -12,6 +14,9 @@ TrayArrival::TrayArrival(RunLoop& runLoop, TrayHost& statusNotifier, TrayHost& x
     , arrived_(std::move(arrived))
     , statusNotifierObserver_(statusNotifier.observe([this] { look(); }))
     , xembedObserver_(xembed.observe([this] { look(); })) {
+    silenceTimer_ = runLoop_.scheduleOnce(silence, RunLoopMode::Common, [] {
+        core::log(u"no tray to show the menu in; the icon appears once there is one");
+    });
     look();
 }
 
@@ -29,6 +34,7 @@ void TrayArrival::arrive() {
     statusNotifierObserver_.reset();
     xembedObserver_.reset();
     patienceTimer_.reset();
+    silenceTimer_.reset();
     if (const auto arrived = std::exchange(arrived_, nullptr)) {
         arrived();
     }

@@ -18,6 +18,9 @@ public:
     /// A panel that offers both kinds registers them one shortly after the other.
     static constexpr Seconds patience{2.0};
 
+    /// After so long without any tray one line in the log says so.
+    static constexpr Seconds silence{10.0};
+
     /// Calls `arrived` once, at the earliest within the constructor.
     TrayArrival(RunLoop& runLoop, TrayHost& statusNotifier, TrayHost& xembed,
                 std::function<void()> arrived);
@@ -33,6 +36,7 @@ private:
     core::Registration statusNotifierObserver_;
     core::Registration xembedObserver_;
     core::Registration patienceTimer_;
+    core::Registration silenceTimer_;
 };
 
 } // namespace platform

@@ -53,6 +53,19 @@ TEST(TrayArrival, ALateHostGetsTheIconWhenItComes) {
     EXPECT_EQ(desktop.icons, 1);
 }
 
+TEST(TrayArrival, SaysOnceThatThereIsNoTray) {
+    testing::internal::CaptureStdout();
+    Desktop without(false, false);
+    without.runLoop.advance(9.9);
+    Desktop with(true, false);
+    with.runLoop.advance(60);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+    testing::internal::CaptureStdout();
+    without.runLoop.advance(60);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(),
+              "Quillet: no tray to show the menu in; the icon appears once there is one\n");
+}
+
 TEST(TrayArrival, AHostThatComesSoonAfterTheOlderTrayWins) {
     Desktop desktop(false, true);
     desktop.runLoop.advance(1.9);

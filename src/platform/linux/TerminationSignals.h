@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QSocketNotifier>
+
+namespace platform {
+
+/// Lets SIGTERM and SIGINT end the program the way its Quit entry does. A second signal ends it at
+/// once. At most one object of this class exists; needs the application object.
+class TerminationSignals {
+public:
+    TerminationSignals();
+    ~TerminationSignals();
+    TerminationSignals(const TerminationSignals&) = delete;
+    TerminationSignals& operator=(const TerminationSignals&) = delete;
+
+private:
+    int readEnd_ = -1;
+    QSocketNotifier notifier_;
+};
+
+} // namespace platform
