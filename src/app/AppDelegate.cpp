@@ -1,0 +1,145 @@
+#include "app/AppDelegate.h"
+
+#include "app/StatusIcon.h"
+#include "bar/FormattingBarController.h"
+#include "core/NotificationCenter.h"
+#include "monitor/NotesAutomation.h"
+#include "monitor/NotesMonitor.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+
+using monitor::NotesAutomation;
+
+namespace app {
+
+namespace {
+
+constexpr platform::Seconds updaterDelay{3.0};
+
+void post(const monitor::Shortcut& shortcut) {
+    NotesAutomation::simulateKeyboardShortcut(shortcut.key, shortcut.modifiers);
+}
+
+} // namespace
+
+AppDelegate::AppDelegate()
+    : platform_(platform::current())
+    , updaterController_(*platform_.updater)
+    , menuTracking_(statusMenu_.menu(), *platform_.runLoop, *platform_.pointerMonitor) {}
+
+AppDelegate::AppDelegate(platform::Platform& platform, settings::AppSettingsManager& settings)
+    : platform_(platform)
+    , settings_(&settings)
+    , updaterController_(*platform.updater)
+    , menuTracking_(statusMenu_.menu(), *platform.runLoop, *platform.pointerMonitor) {}
+
+AppDelegate::~AppDelegate() = default;
+
+void AppDelegate::applicationDidFinishLaunching() {
+    setupMenuBar();
+    platform_.windowServer->becomeAccessory();
+    showFeedbackSheet_ = core::NotificationCenter::defaultCenter().addObserver(
+        QStringLiteral("showFeedbackSheet"), [this] { openFeedback(); });
+    setupMonitoring();
+    platform_.runLoop->dispatchAfter(updaterDelay, [self = QPointer(this)] {
+        if (self) {
+            self->updaterController_.startUpdater();
+        }
+    });
+}
+
+void AppDelegate::applicationWillTerminate() {
+    if (notesMonitor_) {
+        notesMonitor_->stopMonitoring();
+    }
+    if (formattingBar_) {
+        formattingBar_->hide();
+    }
+}
+
+void AppDelegate::setupMenuBar() {
+    connect(&statusMenu_.checkAccessibility(), &QAction::triggered, this,
+            &AppDelegate::checkAccessibility);
+    connect(&statusMenu_.settings(), &QAction::triggered, this, &AppDelegate::openSettings);
+    connect(&statusMenu_.checkForUpdates(), &QAction::triggered, this,
+            &AppDelegate::checkForUpdates);
+    connect(&statusMenu_.feedback(), &QAction::triggered, this, &AppDelegate::openFeedback);
+    connect(&statusMenu_.quit(), &QAction::triggered, QCoreApplication::instance(),
+            &QCoreApplication::quit);
+    statusItem_ =
+        platform_.statusItem->show(statusIcon(*platform_.symbols, QStringLiteral("textformat.alt")),
+                                   QStringLiteral("Corvane Quillet"), statusMenu_.menu());
+}
+
+void AppDelegate::setupMonitoring() {
+    notesMonitor_ = settings_ != nullptr
+                        ? std::make_unique<monitor::NotesMonitor>(platform_, *settings_)
+                        : std::make_unique<monitor::NotesMonitor>();
+    connectSelectionToFormat();
+    notesMonitor_->startMonitoring();
+    if (QAction* status = statusMenu_.itemWithTag(StatusMenu::statusTag)) {
+        status->setText(QStringLiteral("Status: ") + QStringLiteral("Ready"));
+    }
+}
+
+void AppDelegate::connectSelectionToFormat() {
+    formattingBar_ = std::make_unique<bar::FormattingBarController>(platform_);
+    notesMonitor_->onSelectionChanged = [self = QPointer(this)](bool visible,
+                                                                const platform::Rect& rect) {
+        if (visible) {
+            NotesAutomation::targetApplication = self && self->notesMonitor_
+                                                     ? self->notesMonitor_->targetApplication()
+                                                     : std::nullopt;
+        }
+        if (!self || !self->formattingBar_) {
+            return;
+        }
+        if (visible) {
+            self->formattingBar_->show(rect);
+        } else {
+            self->formattingBar_->hide();
+        }
+    };
+    formattingBar_->onFormatSelected = [self = QPointer(this)](bar::TextFormat format) {
+        if (self) {
+            post(NotesAutomation::formatShortcut(format));
+        }
+    };
+    formattingBar_->onHeadingSelected = [](bar::HeadingLevel level) {
+        post(NotesAutomation::headingShortcut(level));
+    };
+    formattingBar_->onOpenColorPicker = [] { NotesAutomation::showColorPicker(); };
+}
+
+void AppDelegate::checkAccessibility() {
+    if (platform_.accessibility->isProcessTrusted(platform::TrustPrompt::Hidden)) {
+        platform_.alerts->runModal(
+            {platform::AlertStyle::Informational,
+             QStringLiteral("Accessibility Access Granted"),
+             QStringLiteral("Corvane Quillet has the required accessibility permissions."),
+             {QStringLiteral("OK")}});
+        return;
+    }
+    const int answer = platform_.alerts->runModal(
+        {platform::AlertStyle::Warning,
+         QStringLiteral("Accessibility Access Required"),
+         QStringLiteral("Corvane Quillet needs accessibility access to detect text selection and "
+                        "provide formatting features.\n\nPlease grant access in System Settings > "
+                        "Privacy & Security > Accessibility."),
+         {QStringLiteral("Open System Settings"), QStringLiteral("Cancel")}});
+    if (answer == platform::Alerts::firstButtonReturn) {
+        platform_.workspace->openUrl(QUrl(QStringLiteral(
+            "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility")));
+    }
+}
+
+void AppDelegate::openSettings() {}
+
+void AppDelegate::checkForUpdates() {
+    updaterController_.checkForUpdates();
+}
+
+void AppDelegate::openFeedback() {}
+
+} // namespace app

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "app/MenuTracking.h"
+#include "app/StatusMenu.h"
+#include "core/Registration.h"
+#include "platform/Platform.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace bar {
+class FormattingBarController;
+}
+namespace monitor {
+class NotesMonitor;
+}
+namespace settings {
+class AppSettingsManager;
+}
+
+namespace app {
+
+/// Starts the program, acts on its menu, and connects a selection with the bar and the bar with
+/// keystroke automation. Main thread only.
+class AppDelegate : public QObject {
+public:
+    /// Works with the current platform and the program's own settings, made on their first use.
+    AppDelegate();
+    /// Both must outlive the delegate.
+    AppDelegate(platform::Platform& platform, settings::AppSettingsManager& settings);
+    ~AppDelegate() override;
+
+    void applicationDidFinishLaunching();
+    void applicationWillTerminate();
+
+    void checkAccessibility();
+    void openSettings();
+    void checkForUpdates();
+    void openFeedback();
+
+    /// Null before the start.
+    monitor::NotesMonitor* notesMonitor() const { return notesMonitor_.get(); }
+    bar::FormattingBarController* formattingBar() const { return formattingBar_.get(); }
+
+private:
+    void setupMenuBar();
+    void setupMonitoring();
+    void connectSelectionToFormat();
+
+    platform::Platform& platform_;
+    settings::AppSettingsManager* settings_ = nullptr;
+    platform::Updater& updaterController_;
+
+    StatusMenu statusMenu_;
+    MenuTracking menuTracking_;
+    core::Registration statusItem_;
+    core::Registration showFeedbackSheet_;
+    std::unique_ptr<bar::FormattingBarController> formattingBar_;
+    std::unique_ptr<monitor::NotesMonitor> notesMonitor_;
+};
+
+} // namespace app
