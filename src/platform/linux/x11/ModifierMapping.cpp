@@ -3,6 +3,7 @@
 #include "platform/linux/x11/XcbDisplay.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace platform {
 
@@ -54,18 +55,30 @@ std::uint64_t ModifierMapping::flags(const KeySet& down) const {
     return flags;
 }
 
-std::optional<std::vector<ScanCode>> ModifierMapping::keysFor(std::uint64_t flags) const {
-    std::vector<ScanCode> keys;
+std::vector<std::vector<ScanCode>> ModifierMapping::waysToPress(std::uint64_t flags) const {
+    std::vector<std::vector<ScanCode>> ways{{}};
     for (const auto& [flag, row] : duties) {
         if ((flags & flag) == 0) {
             continue;
         }
-        if (rows_[row].empty()) {
-            return std::nullopt;
+        std::vector<std::vector<ScanCode>> longer;
+        for (const auto& way : ways) {
+            for (const ScanCode key : rows_[row]) {
+                longer.push_back(way);
+                longer.back().push_back(key);
+            }
         }
-        keys.push_back(rows_[row].front());
+        ways = std::move(longer);
     }
-    return keys;
+    return ways;
+}
+
+std::uint8_t ModifierMapping::realModifiers(std::uint64_t flags) {
+    int bits = 0;
+    for (const auto& [flag, row] : duties) {
+        bits |= (flags & flag) != 0 ? 1 << row : 0;
+    }
+    return static_cast<std::uint8_t>(bits);
 }
 
 } // namespace platform

@@ -33,9 +33,12 @@ public:
     /// Those of the four flags of which some key is down.
     std::uint64_t flags(const KeySet& down) const;
 
-    /// One key for each flag, in the order in which they are to be pressed. Empty when a modifier
-    /// has no key on this keyboard.
-    std::optional<std::vector<ScanCode>> keysFor(std::uint64_t flags) const;
+    /// Every choice of one key for each flag, in the order in which they are to be pressed; the
+    /// usual choice first. None when a modifier has no key on this keyboard.
+    std::vector<std::vector<ScanCode>> waysToPress(std::uint64_t flags) const;
+
+    /// The server's modifier bits for the flags.
+    static std::uint8_t realModifiers(std::uint64_t flags);
 
 private:
     static constexpr std::size_t rowCount = 8;

@@ -1,11 +1,11 @@
 #include "platform/linux/x11/XTestKeyboardEvents.h"
 
 #include "core/Log.h"
+#include "platform/linux/x11/ShortcutChord.h"
 #include "platform/linux/x11/XcbConnection.h"
 
 #include <xcb/xtest.h>
 
-#include <ranges>
 #include <utility>
 
 namespace platform {
@@ -83,10 +83,11 @@ void XTestKeyboardEvents::postShortcut(const Shortcut& shortcut) {
             continue;
         }
         if (keymap && mapping) {
-            if (const auto strokes = chord(shortcut, keymap, *mapping, state->group)) {
+            if (const auto strokes =
+                    shortcutChord(keymap, state->group, *mapping, shortcut.key, shortcut.flags)) {
                 send(*strokes);
             } else {
-                core::log(u"shortcut not posted — the keyboard layout has no key for it");
+                core::log(u"shortcut not posted — the keyboard layout has no keys for it");
             }
             return;
         }
@@ -99,27 +100,6 @@ void XTestKeyboardEvents::postShortcut(const Shortcut& shortcut) {
         }
     }
     core::log(u"shortcut not posted — modifier keys are held");
-}
-
-std::optional<std::vector<KeyStroke>> XTestKeyboardEvents::chord(const Shortcut& shortcut,
-                                                                 const Keymap& keymap,
-                                                                 const ModifierMapping& mapping,
-                                                                 xkb_layout_index_t group) const {
-    const auto key = KeyboardLayout(keymap, group).keyFor(shortcut.key);
-    const auto modifiers = mapping.keysFor(shortcut.flags);
-    if (!key || !modifiers) {
-        return std::nullopt;
-    }
-    std::vector<KeyStroke> strokes;
-    for (const ScanCode modifier : *modifiers) {
-        strokes.push_back({modifier, KeyDirection::Down});
-    }
-    strokes.push_back({*key, KeyDirection::Down});
-    strokes.push_back({*key, KeyDirection::Up});
-    for (const ScanCode modifier : *modifiers | std::views::reverse) {
-        strokes.push_back({modifier, KeyDirection::Up});
-    }
-    return strokes;
 }
 
 void XTestKeyboardEvents::send(const std::vector<KeyStroke>& strokes) {

@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace platform {
 
@@ -44,9 +45,6 @@ private:
     };
 
     void postShortcut(const Shortcut& shortcut);
-    std::optional<std::vector<KeyStroke>> chord(const Shortcut& shortcut, const Keymap& keymap,
-                                                const ModifierMapping& mapping,
-                                                xkb_layout_index_t group) const;
     void send(const std::vector<KeyStroke>& strokes);
     void releaseStaleKeys();
 

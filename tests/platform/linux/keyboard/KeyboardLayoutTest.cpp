@@ -1,4 +1,5 @@
 #include "platform/linux/keyboard/KeyboardLayout.h"
+#include "Keymaps.h"
 
 #include <gtest/gtest.h>
 
@@ -9,22 +10,6 @@ namespace {
 
 constexpr int group1 = 0;
 constexpr int group2 = 1;
-
-struct UnreferenceContext {
-    void operator()(xkb_context* context) const { xkb_context_unref(context); }
-};
-
-platform::Keymap compile(const std::string& layout, const std::string& variant) {
-    const std::unique_ptr<xkb_context, UnreferenceContext> context(
-        xkb_context_new(XKB_CONTEXT_NO_FLAGS));
-    const xkb_rule_names names{.rules = "evdev",
-                               .model = "pc105",
-                               .layout = layout.c_str(),
-                               .variant = variant.c_str(),
-                               .options = ""};
-    return platform::Keymap(
-        xkb_keymap_new_from_names(context.get(), &names, XKB_KEYMAP_COMPILE_NO_FLAGS));
-}
 
 /// The virtual key codes of the US positions that the tests speak of.
 const std::map<std::string, platform::KeyCode> codes{
@@ -103,7 +88,7 @@ const Row table[] = {
 
 TEST_P(LayoutTest, PressesTheKeyThatMeansTheShortcut) {
     const auto& row = GetParam();
-    const auto keymap = compile(row.layout, row.variant);
+    const auto keymap = desktop::compileKeymap({.layout = row.layout, .variant = row.variant});
     ASSERT_TRUE(keymap);
     const platform::KeyboardLayout layout(keymap, static_cast<xkb_layout_index_t>(row.group));
     for (const auto& [wanted, expected] : row.pressed) {

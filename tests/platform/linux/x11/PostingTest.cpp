@@ -125,6 +125,24 @@ TEST_F(XTestKeyboardEventsTest, FollowsTheLayoutAndTheGroupOfTheMoment) {
     EXPECT_EQ(keyPressedFor(12), "+" + std::to_string(keyQ));
 }
 
+TEST_F(XTestKeyboardEventsTest, NeverPressesModifiersThatSwitchTheLayout) {
+    const auto set = [](const QString& option) {
+        run(QStringLiteral("setxkbmap"),
+            {QStringLiteral("us,ru"), QStringLiteral("-option"), option});
+    };
+    set(QStringLiteral("grp:lctrl_lshift_toggle"));
+    post(11, flags::command | flags::shift);
+    EXPECT_EQ(application.takeKeys(), (Keys{"+37/0", "+62/4", "+56/5", "-56/5", "-62/5", "-37/4"}));
+    run(QStringLiteral("setxkbmap"), {QStringLiteral("-option"), QString()});
+    set(QStringLiteral("grp:ctrl_shift_toggle"));
+    testing::internal::CaptureStdout();
+    post(11, flags::command | flags::shift);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(),
+              "Quillet: shortcut not posted — the keyboard layout has no keys for it\n");
+    EXPECT_EQ(application.takeKeys(), Keys{});
+    run(QStringLiteral("setxkbmap"), {QStringLiteral("us"), QStringLiteral("-option"), QString()});
+}
+
 TEST_F(XTestKeyboardEventsTest, ReleasesAtTheStartWhatAnEarlierProgramLeftDown) {
     {
         XUser dead;

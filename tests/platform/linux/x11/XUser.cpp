@@ -33,8 +33,8 @@ void settle(platform::XcbDisplay& display) {
 
 XUser::XUser()
     : display_(connect()) {
-    const auto xkb = display_->reply<xcb_xkb_use_extension_reply_t>(
-        xcb_xkb_use_extension(display_->get(), 1, 0));
+    const platform::XcbPointer<xcb_xkb_use_extension_reply_t> xkb(xcb_xkb_use_extension_reply(
+        display_->get(), xcb_xkb_use_extension(display_->get(), 1, 0), nullptr));
     if (!xkb) {
         throw std::runtime_error("no keyboard extension");
     }
@@ -78,8 +78,8 @@ platform::KeySet XUser::keysDown() {
 }
 
 std::uint8_t XUser::lockedModifiers() {
-    const auto state = display_->reply<xcb_xkb_get_state_reply_t>(
-        xcb_xkb_get_state(display_->get(), XCB_XKB_ID_USE_CORE_KBD));
+    const platform::XcbPointer<xcb_xkb_get_state_reply_t> state(xcb_xkb_get_state_reply(
+        display_->get(), xcb_xkb_get_state(display_->get(), XCB_XKB_ID_USE_CORE_KBD), nullptr));
     return state ? state->lockedMods : 0;
 }
 
