@@ -27,6 +27,11 @@ ActiveWindow::addPropertyHandler(std::function<void(xcb_window_t, xcb_atom_t)> h
 
 bool ActiveWindow::hasWindowManager() {
     connection_.dispatchEvents();
+    if (unread_ && connection_.isAnswering()) {
+        unread_ = false;
+        readWindowManager();
+        readActiveWindow();
+    }
     return managerSign_ != XCB_WINDOW_NONE;
 }
 
@@ -84,6 +89,7 @@ void ActiveWindow::readActiveWindow() {
     const auto active = properties_.singleWindow(connection_.root(), "_NET_ACTIVE_WINDOW");
     active_ = active.value_or(XCB_WINDOW_NONE);
     remember(active_);
+    unread_ = unread_ || !connection_.isAnswering();
 }
 
 void ActiveWindow::readWindowManager() {

@@ -46,6 +46,8 @@ private:
     xcb_window_t active_ = XCB_WINDOW_NONE;
     /// The window by which the window manager shows that it lives.
     xcb_window_t managerSign_ = XCB_WINDOW_NONE;
+    /// Set when the server did not answer what a change made necessary to read.
+    bool unread_ = false;
     core::Registration events_;
 };
 

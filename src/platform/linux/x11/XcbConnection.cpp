@@ -41,6 +41,32 @@ void XcbConnection::addRootEvents(std::uint32_t mask) {
     xcb_flush(get());
 }
 
+xcb_timestamp_t XcbConnection::serverTime() {
+    const xcb_atom_t property = atom("_CORVANE_QUILLET_CLOCK");
+    if (property == XCB_ATOM_NONE) {
+        return XCB_CURRENT_TIME;
+    }
+    if (clockWindow_ == XCB_WINDOW_NONE) {
+        clockWindow_ = xcb_generate_id(get());
+        const std::uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
+        xcb_create_window(get(), XCB_COPY_FROM_PARENT, clockWindow_, root(), -1, -1, 1, 1, 0,
+                          XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK,
+                          &events);
+    }
+    xcb_change_property(get(), XCB_PROP_MODE_APPEND, clockWindow_, property, XCB_ATOM_STRING, 8, 0,
+                        nullptr);
+    // The server sends the event before it answers what was asked after the change.
+    reply<xcb_get_input_focus_reply_t>(xcb_get_input_focus(get()));
+    xcb_timestamp_t time = XCB_CURRENT_TIME;
+    for (const auto& event : arrivedEvents()) {
+        const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(*event);
+        if ((event->response_type & 0x7f) == XCB_PROPERTY_NOTIFY && change.window == clockWindow_) {
+            time = change.time;
+        }
+    }
+    return time;
+}
+
 void XcbConnection::dispatchEvents() {
     if (lost_) {
         return;

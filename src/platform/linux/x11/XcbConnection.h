@@ -31,6 +31,10 @@ public:
     /// connection: whoever set it directly would take their events from the others.
     void addRootEvents(std::uint32_t mask);
 
+    /// The server's time now, for requests that count only when nothing newer happened. One round
+    /// trip; XCB_CURRENT_TIME when the server does not answer.
+    xcb_timestamp_t serverTime();
+
     /// Hands out what has arrived. Happens by itself whenever the main thread is idle.
     void dispatchEvents();
 
@@ -42,6 +46,8 @@ private:
     core::Observers<const xcb_generic_event_t&> eventHandlers_;
     core::Observers<> lostHandlers_;
     std::uint32_t rootEvents_ = 0;
+    /// Never shown; changing it makes the server tell the time.
+    xcb_window_t clockWindow_ = XCB_WINDOW_NONE;
     bool lost_ = false;
 };
 

@@ -68,7 +68,8 @@ XcbPointer<xcb_generic_event_t> XcbDisplay::nextEvent() {
 }
 
 void* XcbDisplay::awaitReply(unsigned int sequence) {
-    const auto deadline = std::chrono::steady_clock::now() + answerLimit;
+    const auto now = std::chrono::steady_clock::now();
+    const auto deadline = now < silentUntil_ ? now : now + answerLimit;
     xcb_flush(connection_);
     for (;;) {
         void* reply = nullptr;
@@ -86,18 +87,23 @@ void* XcbDisplay::awaitReply(unsigned int sequence) {
             std::free(error);
             return reply;
         }
-        const auto remaining = std::chrono::duration_cast<std::chrono::milliseconds>(
+        const auto remaining = std::chrono::ceil<std::chrono::milliseconds>(
             deadline - std::chrono::steady_clock::now());
         if (remaining.count() <= 0) {
-            xcb_discard_reply(connection_, sequence);
-            return nullptr;
+            return giveUp(sequence);
         }
         pollfd readable{xcb_get_file_descriptor(connection_), POLLIN, 0};
         if (poll(&readable, 1, static_cast<int>(remaining.count())) < 0 && errno != EINTR) {
-            xcb_discard_reply(connection_, sequence);
-            return nullptr;
+            return giveUp(sequence);
         }
     }
+}
+
+void* XcbDisplay::giveUp(unsigned int sequence) {
+    // Many reads follow one another in one poll of the selection: only the first may wait.
+    silentUntil_ = std::chrono::steady_clock::now() + silence;
+    xcb_discard_reply(connection_, sequence);
+    return nullptr;
 }
 
 } // namespace platform

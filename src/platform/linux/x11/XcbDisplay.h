@@ -27,6 +27,8 @@ class XcbDisplay {
 public:
     /// How long the server may take for one answer.
     static constexpr std::chrono::milliseconds answerLimit{150};
+    /// How long a server that did not answer is then not waited for at all.
+    static constexpr std::chrono::milliseconds silence{1000};
 
     /// Null when no server answers under $DISPLAY.
     static std::unique_ptr<XcbDisplay> connect();
@@ -41,6 +43,9 @@ public:
     int screenNumber() const { return screenNumber_; }
     xcb_window_t root() const { return screen_->root; }
     bool isAlive() const { return xcb_connection_has_error(connection_) == 0; }
+
+    /// False after the server failed to answer in time, for as long as it is not asked again.
+    bool isAnswering() const { return std::chrono::steady_clock::now() >= silentUntil_; }
 
     /// The atom of that name, asked of the server once. XCB_ATOM_NONE when it does not answer.
     xcb_atom_t atom(const char* name);
@@ -58,6 +63,9 @@ protected:
     /// The next event that has arrived; null when there is none.
     XcbPointer<xcb_generic_event_t> nextEvent();
 
+    /// Read, but not handed out yet.
+    const std::deque<XcbPointer<xcb_generic_event_t>>& arrivedEvents() const { return arrived_; }
+
     struct Opened {
         xcb_connection_t* connection = nullptr;
         int screenNumber = 0;
@@ -67,11 +75,14 @@ protected:
 
 private:
     void* awaitReply(unsigned int sequence);
+    void* giveUp(unsigned int sequence);
 
     xcb_connection_t* connection_;
     int screenNumber_;
     xcb_screen_t* screen_;
     std::map<std::string, xcb_atom_t, std::less<>> atoms_;
+    /// Until then nobody waits again for a server that did not answer in time.
+    std::chrono::steady_clock::time_point silentUntil_;
     /// Events that arrived while an answer was awaited.
     std::deque<XcbPointer<xcb_generic_event_t>> arrived_;
 };

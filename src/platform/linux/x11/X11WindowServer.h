@@ -1,0 +1,29 @@
+#pragma once
+
+#include "platform/WindowServer.h"
+#include "platform/linux/x11/XcbConnection.h"
+
+#include <memory>
+
+namespace platform {
+
+/// The program's own windows on an X server. A floating window goes past the window manager: it
+/// stands on every desktop and above full screen, and never gets the keyboard.
+class X11WindowServer final : public WindowServer {
+public:
+    explicit X11WindowServer(std::shared_ptr<XcbConnection> connection);
+
+    void makeFloating(QWidget& window) override;
+    void setFrame(QWidget& window, const Rect& frame) override;
+    Rect frame(const QWidget& window) override;
+    Rect frameOnScreen(const QWidget& part) override;
+    void orderFront(QWidget& window) override;
+    void orderOut(QWidget& window) override;
+    bool hasTranslucency() override;
+    void becomeAccessory() override;
+
+private:
+    std::shared_ptr<XcbConnection> connection_;
+};
+
+} // namespace platform
