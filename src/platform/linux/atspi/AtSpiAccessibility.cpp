@@ -189,8 +189,8 @@ std::optional<Rect> AtSpiAccessibility::boundsForRange(const Element& element,
     if (!focused || !selected || !inquiry_) {
         return std::nullopt;
     }
-    const auto bounds = BoundsReader(*inquiry_, windows_)
-                            .read(selected->spans, focused->focus.window, focused->process);
+    const auto bounds =
+        BoundsReader(*inquiry_, windows_, originError_).read(selected->spans, focused->process);
     if (inquiry_->ranOut()) {
         guards_[focused->process].ranOut(Clock::now());
     }

@@ -6,6 +6,7 @@
 #include "platform/linux/atspi/ApplicationDirectory.h"
 #include "platform/linux/atspi/EventListener.h"
 #include "platform/linux/atspi/FocusFinder.h"
+#include "platform/linux/atspi/OriginError.h"
 #include "platform/linux/atspi/SelectionReader.h"
 #include "platform/linux/atspi/SlownessGuard.h"
 #include "platform/linux/atspi/TrustQuestion.h"
@@ -70,6 +71,7 @@ private:
     EventListener events_;
     ApplicationDirectory directory_;
     FocusFinder focusFinder_;
+    OriginError originError_;
     TrustQuestion trustQuestion_;
     QHash<ProcessIdentifier, SlownessGuard> guards_;
 

@@ -68,28 +68,29 @@ std::optional<PixelRect> common(const PixelRect& a, const PixelRect& b) {
 } // namespace
 
 std::optional<PixelRect> BoundsReader::read(const std::vector<TextSpan>& spans,
-                                            const ObjectReference& window,
                                             ProcessIdentifier process) {
-    auto bounds = unitedExtents(piecesOf(spans));
-    if (!bounds) {
+    const auto said = unitedExtents(piecesOf(spans));
+    if (!said) {
         return std::nullopt;
     }
-    if (const auto clientArea = windows_.activeWindowClientArea(process)) {
-        const auto offset = offsetOf(window, *clientArea);
-        bounds->x += offset.x;
-        bounds->y += offset.y;
-        bounds = common(*bounds, *clientArea);
+    const auto clientArea = windows_.activeWindowClientArea(process);
+    if (!clientArea) {
+        return onScreens(*said);
     }
-    if (!bounds) {
-        return std::nullopt;
-    }
-    std::optional<PixelRect> visible;
+    const auto error = originError_.of(spans.front().object, *clientArea, inquiry_);
+    const auto inWindow =
+        common({said->x + error.x, said->y + error.y, said->width, said->height}, *clientArea);
+    return inWindow ? onScreens(*inWindow) : std::nullopt;
+}
+
+std::optional<PixelRect> BoundsReader::onScreens(const PixelRect& bounds) {
     const auto geometry = windows_.pixelGeometry();
     if (geometry.screens().empty()) {
         return bounds;
     }
+    std::optional<PixelRect> visible;
     for (const auto& screen : geometry.screens()) {
-        if (const auto part = common(*bounds, screen.frame)) {
+        if (const auto part = common(bounds, screen.frame)) {
             visible = visible ? united(*visible, *part) : *part;
         }
     }
@@ -117,20 +118,6 @@ std::optional<PixelRect> BoundsReader::unitedExtents(const std::vector<TextSpan>
         }
     }
     return whole;
-}
-
-/// Some applications count from another corner than that of their window, and not always from the
-/// same one. Where what an application calls its frame is as large as the client area, it means the
-/// client area, and the two corners tell the difference.
-PixelPoint BoundsReader::offsetOf(const ObjectReference& window, const PixelRect& clientArea) {
-    if (window.isNull()) {
-        return {};
-    }
-    const auto frame = inquiry_.ask<Extents>(requests::extents(window));
-    if (!frame || frame->width != clientArea.width || frame->height != clientArea.height) {
-        return {};
-    }
-    return {clientArea.x - frame->x, clientArea.y - frame->y};
 }
 
 } // namespace platform

@@ -2,6 +2,7 @@
 
 #include "platform/linux/ApplicationWindows.h"
 #include "platform/linux/atspi/Inquiry.h"
+#include "platform/linux/atspi/OriginError.h"
 #include "platform/linux/atspi/SelectionReader.h"
 
 #include <optional>
@@ -12,21 +13,22 @@ namespace platform {
 /// Finds out where spans of text stand on the screen.
 class BoundsReader {
 public:
-    BoundsReader(Inquiry& inquiry, ApplicationWindows& windows)
+    BoundsReader(Inquiry& inquiry, ApplicationWindows& windows, OriginError& originError)
         : inquiry_(inquiry)
-        , windows_(windows) {}
+        , windows_(windows)
+        , originError_(originError) {}
 
     /// The smallest rectangle around the visible part of all spans, in device pixels. Empty when
     /// the application does not tell, or none of them can be seen.
-    std::optional<PixelRect> read(const std::vector<TextSpan>& spans, const ObjectReference& window,
-                                  ProcessIdentifier process);
+    std::optional<PixelRect> read(const std::vector<TextSpan>& spans, ProcessIdentifier process);
 
 private:
     std::optional<PixelRect> unitedExtents(const std::vector<TextSpan>& pieces);
-    PixelPoint offsetOf(const ObjectReference& window, const PixelRect& clientArea);
+    std::optional<PixelRect> onScreens(const PixelRect& bounds);
 
     Inquiry& inquiry_;
     ApplicationWindows& windows_;
+    OriginError& originError_;
 };
 
 } // namespace platform

@@ -21,6 +21,7 @@ bool isWorthEntering(unsigned role, const StateSet& states, int childCount) {
     case Role::TreeTable:
         return false;
     case Role::PasswordText:
+    case Role::RootPane:
     case Role::Paragraph:
     case Role::Heading:
         break;
@@ -47,14 +48,13 @@ void FocusFinder::forget(const QString& service) {
 std::optional<FocusedObject>
 FocusFinder::find(const QString& service, const ObjectReference& lastFocused, Inquiry& inquiry) {
     const auto windows = activeWindows(service, inquiry);
-    const ObjectReference window = windows.empty() ? ObjectReference() : windows.front();
     if (!withoutCollection_.contains(service)) {
         if (auto found = search(service, windows, inquiry)) {
             return found;
         }
     }
     if (!lastFocused.isNull()) {
-        if (auto found = best({lastFocused}, window, inquiry)) {
+        if (auto found = best({lastFocused}, inquiry)) {
             return found;
         }
     }
@@ -94,7 +94,7 @@ std::optional<FocusedObject> FocusFinder::search(const QString& service,
     for (const auto& window : windows) {
         const auto reply = inquiry.ask(requests::focusedDescendants(window));
         if (const auto hits = Inquiry::decode<QList<ObjectReference>>(reply)) {
-            if (auto found = best({hits->begin(), hits->end()}, window, inquiry)) {
+            if (auto found = best({hits->begin(), hits->end()}, inquiry)) {
                 return found;
             }
         } else if (!inquiry.ranOut()) {
@@ -106,7 +106,7 @@ std::optional<FocusedObject> FocusFinder::search(const QString& service,
 }
 
 std::optional<FocusedObject> FocusFinder::best(const std::vector<ObjectReference>& objects,
-                                               const ObjectReference& window, Inquiry& inquiry) {
+                                               Inquiry& inquiry) {
     constexpr std::size_t questionsEach = 3;
     std::vector<Request> questions;
     for (const auto& object : objects) {
@@ -125,7 +125,7 @@ std::optional<FocusedObject> FocusFinder::best(const std::vector<ObjectReference
         if (!states.has(State::Focused) || !role || !interfaces) {
             continue;
         }
-        const FocusedObject candidate{questions[index].object, window, *role,
+        const FocusedObject candidate{questions[index].object, *role,
                                       interfaces->contains(u"org.a11y.atspi.Text"),
                                       states.has(State::Editable)};
         if (!best || rank(candidate) > rank(*best)) {
@@ -166,7 +166,7 @@ std::optional<FocusedObject> FocusFinder::walk(const ObjectReference& window, In
                 toEnter.push_back(requests::children(level[index]));
             }
         }
-        if (auto found = best(focused, window, inquiry)) {
+        if (auto found = best(focused, inquiry)) {
             if (found->hasText) {
                 return found;
             }

@@ -13,8 +13,6 @@ namespace platform {
 /// The object of an application that has the keyboard, and what was found out on the way.
 struct FocusedObject {
     ObjectReference object;
-    /// The window that contains it; null where it is not known.
-    ObjectReference window;
     unsigned role = 0;
     bool hasText = false;
     bool isEditable = false;
@@ -38,7 +36,7 @@ private:
     search(const QString& service, const std::vector<ObjectReference>& windows, Inquiry& inquiry);
     std::optional<FocusedObject> walk(const ObjectReference& window, Inquiry& inquiry);
     static std::optional<FocusedObject> best(const std::vector<ObjectReference>& objects,
-                                             const ObjectReference& window, Inquiry& inquiry);
+                                             Inquiry& inquiry);
 
     /// Applications that answered that they cannot search.
     QSet<QString> withoutCollection_;

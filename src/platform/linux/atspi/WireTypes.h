@@ -12,6 +12,7 @@ namespace platform {
 enum class Role : unsigned {
     List = 31,
     PasswordText = 40,
+    RootPane = 46,
     Table = 55,
     Tree = 65,
     TreeTable = 66,

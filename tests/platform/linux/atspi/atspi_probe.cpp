@@ -19,23 +19,25 @@ struct ActiveWindow final : platform::ApplicationWindows {
     std::optional<platform::PixelRect>
     activeWindowClientArea(platform::ProcessIdentifier) override {
         QProcess process;
-        process.start(QStringLiteral("xdotool"),
-                      {QStringLiteral("getactivewindow"), QStringLiteral("getwindowgeometry"),
-                       QStringLiteral("--shell")});
+        process.start(QStringLiteral("sh"),
+                      {QStringLiteral("-c"),
+                       QStringLiteral("xwininfo -id $(xprop -root -f _NET_ACTIVE_WINDOW 0x "
+                                      "' $0' _NET_ACTIVE_WINDOW | cut -d' ' -f2)")});
         process.waitForFinished(1000);
         platform::PixelRect area;
         for (const auto& line : QString::fromUtf8(process.readAllStandardOutput()).split(u'\n')) {
-            const int value = line.section(u'=', 1).toInt();
-            if (line.startsWith(u"X=")) {
+            const int value = line.section(u':', 1).trimmed().toInt();
+            if (line.contains(u"Absolute upper-left X:")) {
                 area.x = value;
-            } else if (line.startsWith(u"Y=")) {
+            } else if (line.contains(u"Absolute upper-left Y:")) {
                 area.y = value;
-            } else if (line.startsWith(u"WIDTH=")) {
+            } else if (line.contains(u"Width:")) {
                 area.width = value;
-            } else if (line.startsWith(u"HEIGHT=")) {
+            } else if (line.contains(u"Height:")) {
                 area.height = value;
             }
         }
+        std::printf("client area %d,%d %dx%d: ", area.x, area.y, area.width, area.height);
         return area;
     }
     platform::PixelGeometry pixelGeometry() override { return {}; }
