@@ -6,16 +6,16 @@ namespace platform {
 
 namespace {
 
-constexpr std::size_t mostObjectsOfAWalk = 2000;
+constexpr std::size_t mostObjectsOfAWalk = 1000;
 constexpr int mostChildrenOfAnObject = 200;
-/// What a walk must leave of the time for reading the text that it found.
-constexpr std::chrono::milliseconds timeKeptForReading{100};
 
-/// Rows and cells come into being by being asked for, and none of them holds a text that the
-/// keyboard is in without telling so by an event.
+/// Rows and cells come into being by being asked for, and menus are many; none of them holds a text
+/// that the keyboard is in without telling so by an event.
 bool isWorthEntering(unsigned role, const StateSet& states, int childCount) {
     switch (static_cast<Role>(role)) {
     case Role::List:
+    case Role::Menu:
+    case Role::MenuBar:
     case Role::Table:
     case Role::Tree:
     case Role::TreeTable:
@@ -24,6 +24,7 @@ bool isWorthEntering(unsigned role, const StateSet& states, int childCount) {
     case Role::RootPane:
     case Role::Paragraph:
     case Role::Heading:
+    case Role::Static:
         break;
     }
     return childCount > 0 && childCount <= mostChildrenOfAnObject &&
@@ -43,29 +44,22 @@ int rank(const FocusedObject& object) {
 void FocusFinder::forget(const QString& service) {
     withoutCollection_.remove(service);
     tooLargeToWalk_.remove(service);
+    lastFound_.remove(service);
 }
 
 std::optional<FocusedObject>
 FocusFinder::find(const QString& service, const ObjectReference& lastFocused, Inquiry& inquiry) {
-    const auto windows = activeWindows(service, inquiry);
-    if (!withoutCollection_.contains(service)) {
-        if (auto found = search(service, windows, inquiry)) {
-            return found;
-        }
+    auto found = withoutCollection_.contains(service) ? std::nullopt : search(service, inquiry);
+    if (!found) {
+        found = best({lastFocused, lastFound_.value(service)}, inquiry);
     }
-    if (!lastFocused.isNull()) {
-        if (auto found = best({lastFocused}, inquiry)) {
-            return found;
-        }
+    if (!found && withoutCollection_.contains(service) && !tooLargeToWalk_.contains(service)) {
+        found = walk(service, inquiry);
     }
-    if (withoutCollection_.contains(service) && !tooLargeToWalk_.contains(service)) {
-        for (const auto& each : windows) {
-            if (auto found = walk(each, inquiry)) {
-                return found;
-            }
-        }
+    if (found) {
+        lastFound_.insert(service, found->object);
     }
-    return std::nullopt;
+    return found;
 }
 
 std::vector<ObjectReference> FocusFinder::activeWindows(const QString& service, Inquiry& inquiry) {
@@ -88,18 +82,18 @@ std::vector<ObjectReference> FocusFinder::activeWindows(const QString& service, 
     return active;
 }
 
-std::optional<FocusedObject> FocusFinder::search(const QString& service,
-                                                 const std::vector<ObjectReference>& windows,
-                                                 Inquiry& inquiry) {
-    for (const auto& window : windows) {
+std::optional<FocusedObject> FocusFinder::search(const QString& service, Inquiry& inquiry) {
+    for (const auto& window : activeWindows(service, inquiry)) {
         const auto reply = inquiry.ask(requests::focusedDescendants(window));
-        if (const auto hits = Inquiry::decode<QList<ObjectReference>>(reply)) {
-            if (auto found = best({hits->begin(), hits->end()}, inquiry)) {
-                return found;
+        const auto hits = Inquiry::decode<QList<ObjectReference>>(reply);
+        if (!hits) {
+            if (!inquiry.ranOut()) {
+                withoutCollection_.insert(service);
             }
-        } else if (!inquiry.ranOut()) {
-            withoutCollection_.insert(service);
-            break;
+            return std::nullopt;
+        }
+        if (auto found = best({hits->begin(), hits->end()}, inquiry)) {
+            return found;
         }
     }
     return std::nullopt;
@@ -135,15 +129,15 @@ std::optional<FocusedObject> FocusFinder::best(const std::vector<ObjectReference
     return best;
 }
 
-std::optional<FocusedObject> FocusFinder::walk(const ObjectReference& window, Inquiry& inquiry) {
+std::optional<FocusedObject> FocusFinder::walk(const QString& service, Inquiry& inquiry) {
     constexpr std::size_t questionsEach = 3;
     std::optional<FocusedObject> container;
-    std::vector<ObjectReference> level{window};
+    std::vector<ObjectReference> level = activeWindows(service, inquiry);
     std::size_t seen = 0;
-    while (!level.empty()) {
+    while (!level.empty() && !inquiry.ranOut()) {
         seen += level.size();
-        if (seen > mostObjectsOfAWalk || inquiry.remaining() < timeKeptForReading) {
-            tooLargeToWalk_.insert(window.service);
+        if (seen > mostObjectsOfAWalk) {
+            tooLargeToWalk_.insert(service);
             break;
         }
         std::vector<Request> questions;
@@ -174,10 +168,9 @@ std::optional<FocusedObject> FocusFinder::walk(const ObjectReference& window, In
         }
         level.clear();
         for (const auto& reply : inquiry.askAll(toEnter)) {
-            const auto children = Inquiry::decode<QList<ObjectReference>>(reply);
-            std::copy_if(children ? children->begin() : QList<ObjectReference>::iterator(),
-                         children ? children->end() : QList<ObjectReference>::iterator(),
-                         std::back_inserter(level),
+            const auto children =
+                Inquiry::decode<QList<ObjectReference>>(reply).value_or(QList<ObjectReference>());
+            std::copy_if(children.begin(), children.end(), std::back_inserter(level),
                          [](const ObjectReference& child) { return !child.isNull(); });
         }
     }

@@ -3,6 +3,7 @@
 #include "platform/linux/atspi/Inquiry.h"
 #include "platform/linux/atspi/WireTypes.h"
 
+#include <QHash>
 #include <QSet>
 
 #include <optional>
@@ -16,8 +17,6 @@ struct FocusedObject {
     unsigned role = 0;
     bool hasText = false;
     bool isEditable = false;
-
-    bool isPassword() const { return role == static_cast<unsigned>(Role::PasswordText); }
 };
 
 /// Finds the focused object of an application, whichever of the three ways its toolkit supports.
@@ -32,9 +31,9 @@ public:
 
 private:
     static std::vector<ObjectReference> activeWindows(const QString& service, Inquiry& inquiry);
-    std::optional<FocusedObject>
-    search(const QString& service, const std::vector<ObjectReference>& windows, Inquiry& inquiry);
-    std::optional<FocusedObject> walk(const ObjectReference& window, Inquiry& inquiry);
+    std::optional<FocusedObject> search(const QString& service, Inquiry& inquiry);
+    std::optional<FocusedObject> walk(const QString& service, Inquiry& inquiry);
+    /// The one of these that has the keyboard, a text rather than what contains it.
     static std::optional<FocusedObject> best(const std::vector<ObjectReference>& objects,
                                              Inquiry& inquiry);
 
@@ -42,6 +41,8 @@ private:
     QSet<QString> withoutCollection_;
     /// Applications in which a walk came to its limit; a focus event must show the way there.
     QSet<QString> tooLargeToWalk_;
+    /// A good guess where there are no focus events.
+    QHash<QString, ObjectReference> lastFound_;
 };
 
 } // namespace platform

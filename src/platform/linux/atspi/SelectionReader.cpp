@@ -23,10 +23,17 @@ void append(Selection& whole, const Selection& part) {
     whole.spans.insert(whole.spans.end(), part.spans.begin(), part.spans.end());
 }
 
+void appendLine(Selection& whole, const Selection& part) {
+    if (!whole.spans.empty() && !part.spans.empty()) {
+        whole.text += u'\n';
+    }
+    append(whole, part);
+}
+
 } // namespace
 
 std::optional<Selection> SelectionReader::read(const FocusedObject& focused) {
-    if (!focused.hasText || focused.isPassword()) {
+    if (!focused.hasText) {
         return std::nullopt;
     }
     if (isParagraph(focused.role)) {
@@ -58,10 +65,7 @@ std::optional<Selection> SelectionReader::readParagraphs(const ObjectReference& 
         }
         const auto part = readObject(questions[index].object, 0);
         if (part && !part->spans.empty()) {
-            if (!whole.spans.empty()) {
-                whole.text += u'\n';
-            }
-            append(whole, *part);
+            appendLine(whole, *part);
         }
     }
     return whole;
@@ -69,8 +73,12 @@ std::optional<Selection> SelectionReader::readParagraphs(const ObjectReference& 
 
 std::optional<Selection> SelectionReader::readObject(const ObjectReference& object, int depth) {
     --objectsLeft_;
-    const auto count = inquiry_.ask<int>(requests::selectionCount(object));
-    if (!count) {
+    // The role is asked anew: a field that shows what was typed can turn back into one that hides.
+    const auto replies =
+        inquiry_.askAll({requests::role(object), requests::selectionCount(object)});
+    const auto role = Inquiry::decode<unsigned>(replies[0]);
+    const auto count = Inquiry::decode<int>(replies[1]);
+    if (!role || *role == static_cast<unsigned>(Role::PasswordText) || !count) {
         return std::nullopt;
     }
     const auto spans = spansOf(object, *count);
@@ -83,25 +91,33 @@ std::optional<Selection> SelectionReader::readObject(const ObjectReference& obje
         if (!text) {
             return std::nullopt;
         }
-        if (!whole.text.isEmpty()) {
-            whole.text += u'\n';
-        }
-        if (!text->contains(embeddedObject)) {
-            append(whole, {*text, {span}});
-            continue;
-        }
-        // The children's own texts stand where the parent has only placeholders.
-        const auto embedded =
-            depth < deepest ? readEmbedded(object, depth + 1) : std::vector<Selection>();
-        if (embedded.empty()) {
-            append(whole, {*text, {span}});
-        }
-        for (const auto& part : embedded) {
-            if (!whole.text.isEmpty()) {
+        appendLine(whole, text->contains(embeddedObject) ? readMixed(span, *text, depth)
+                                                         : Selection{*text, {span}});
+    }
+    return whole;
+}
+
+Selection SelectionReader::readMixed(const TextSpan& span, const QString& text, int depth) {
+    const auto embedded =
+        depth < deepest ? readEmbedded(span.object, depth + 1) : std::vector<Selection>();
+    Selection whole;
+    auto next = embedded.begin();
+    int position = span.start;
+    const auto runs = text.split(embeddedObject);
+    for (qsizetype index = 0; index < runs.size(); ++index) {
+        // Each run but the first follows a placeholder.
+        if (index > 0 && next != embedded.end()) {
+            append(whole, *next++);
+            // One right after another: blocks, such as the paragraphs of a page.
+            if (runs[index].isEmpty() && next != embedded.end()) {
                 whole.text += u'\n';
             }
-            append(whole, part);
         }
+        const auto length = static_cast<int>(runs[index].toUcs4().size());
+        if (length > 0) {
+            append(whole, {runs[index], {{span.object, position, position + length}}});
+        }
+        position += length + 1;
     }
     return whole;
 }
@@ -150,8 +166,9 @@ std::vector<Selection> SelectionReader::readEmbedded(const ObjectReference& obje
     std::vector<Selection> parts;
     for (std::size_t index = 0; index + 1 < replies.size() && objectsLeft_ > 0; index += 2) {
         const auto role = Inquiry::decode<unsigned>(replies[index + 1]);
-        if (Inquiry::decode<int>(replies[index]).value_or(0) <= 0 || !role ||
-            *role == static_cast<unsigned>(Role::PasswordText)) {
+        // The text of a static child stands in its parent's text as it is.
+        if (Inquiry::decode<int>(replies[index]).value_or(0) <= 0 ||
+            role == static_cast<unsigned>(Role::Static)) {
             continue;
         }
         auto part = readObject(questions[index].object, depth);

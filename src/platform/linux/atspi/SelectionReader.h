@@ -37,6 +37,8 @@ public:
 private:
     std::optional<Selection> readParagraphs(const ObjectReference& paragraph);
     std::optional<Selection> readObject(const ObjectReference& object, int depth);
+    /// The selected text of an object with other objects in it, each in its place.
+    Selection readMixed(const TextSpan& span, const QString& text, int depth);
     std::optional<std::vector<TextSpan>> spansOf(const ObjectReference& object, int count);
     std::optional<QString> textOf(const TextSpan& span);
     std::vector<Selection> readEmbedded(const ObjectReference& object, int depth);

@@ -11,6 +11,8 @@ namespace platform {
 /// The few of the many roles that matter here.
 enum class Role : unsigned {
     List = 31,
+    Menu = 33,
+    MenuBar = 34,
     PasswordText = 40,
     RootPane = 46,
     Table = 55,
@@ -18,6 +20,7 @@ enum class Role : unsigned {
     TreeTable = 66,
     Paragraph = 73,
     Heading = 83,
+    Static = 116,
 };
 
 enum class State { Active = 1, Editable = 7, Focused = 12, ManagesDescendants = 31 };
