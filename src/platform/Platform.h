@@ -44,6 +44,10 @@ struct Platform {
     std::unique_ptr<Updater> updater;
 };
 
+/// What must happen before the application object is made. Answers, as one line of English, why the
+/// program cannot run here; empty when it can.
+[[nodiscard]] std::optional<QString> prepareProcess();
+
 /// Puts the system's own implementations together. Needs the application object; main thread.
 std::unique_ptr<Platform> makePlatform();
 

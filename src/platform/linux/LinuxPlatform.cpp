@@ -1,0 +1,124 @@
+#include "platform/Platform.h"
+
+#include "core/Fatal.h"
+#include "core/Log.h"
+#include "platform/linux/InertUpdater.h"
+#include "platform/linux/LinuxSystemInfo.h"
+#include "platform/linux/TerminationSignals.h"
+#include "platform/linux/atspi/AtSpiAccessibility.h"
+#include "platform/linux/freedesktop/ApplicationFolders.h"
+#include "platform/linux/freedesktop/DesktopEntryIndex.h"
+#include "platform/linux/freedesktop/JsonUserDefaults.h"
+#include "platform/linux/freedesktop/KeyFile.h"
+#include "platform/linux/freedesktop/StatusNotifierHost.h"
+#include "platform/linux/freedesktop/StatusNotifierStatusItem.h"
+#include "platform/linux/freedesktop/XdgAutostartLoginItem.h"
+#include "platform/linux/x11/EwmhWindows.h"
+#include "platform/linux/x11/EwmhWorkspace.h"
+#include "platform/linux/x11/X11Screens.h"
+#include "platform/linux/x11/X11WindowServer.h"
+#include "platform/linux/x11/XEmbedTray.h"
+#include "platform/linux/x11/XInputEvents.h"
+#include "platform/linux/x11/XInputKeyMonitor.h"
+#include "platform/linux/x11/XInputPointerMonitor.h"
+#include "platform/linux/x11/XTestKeyboardEvents.h"
+#include "platform/qt/DrawnSymbols.h"
+#include "platform/qt/QtAlerts.h"
+#include "platform/qt/QtColorPanel.h"
+#include "platform/qt/QtRunLoop.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QGuiApplication>
+
+namespace platform {
+
+namespace {
+
+/// What the mechanisms share. All of it outlives them.
+struct Foundation {
+    Foundation(std::shared_ptr<XcbConnection> x11, RunLoop& runLoop)
+        : connection(std::move(x11))
+        , desktopEntries(runLoop, ApplicationFolders::fromEnvironment().byPrecedence(),
+                         localeSuffixes(messagesLocale())) {}
+
+    TerminationSignals terminationSignals;
+    QDBusConnection session = QDBusConnection::sessionBus();
+    std::shared_ptr<XcbConnection> connection;
+    EwmhWindows windows{connection};
+    DesktopEntryIndex desktopEntries;
+    OwnKeyStrokes ownKeyStrokes;
+    std::shared_ptr<XInputEvents> inputEvents = XInputEvents::create(*connection, ownKeyStrokes);
+    StatusNotifierHost statusNotifierHost{session};
+    XEmbedTray xembedTray{connection};
+};
+
+void logWhatIsMissing(Foundation& foundation) {
+    if (!foundation.session.isConnected()) {
+        core::log(u"no session bus: selections cannot be read, and only a tray of the older kind "
+                  u"can show the menu");
+    }
+    if (!foundation.windows.activeWindow().hasWindowManager()) {
+        core::log(u"no window manager: the window with the keyboard counts as the active one");
+    }
+    if (QGuiApplication::screens().isEmpty()) {
+        core::log(u"no screen: the bar appears once there is one");
+    }
+}
+
+} // namespace
+
+std::optional<QString> prepareProcess() {
+    if (!XcbDisplay::connect()) {
+        const QString display = qEnvironmentVariable("DISPLAY");
+        return display.isEmpty() ? QStringLiteral("no X server: DISPLAY is not set")
+                                 : QStringLiteral("no X server answers at %1").arg(display);
+    }
+    // Under Wayland the toolkit would choose another system than this layer works on.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "xcb");
+    }
+    return std::nullopt;
+}
+
+std::unique_ptr<Platform> makePlatform() {
+    auto connection = XcbConnection::open();
+    if (!connection) {
+        core::fatal(u"the X server went away during the start");
+    }
+    auto platform = std::make_unique<Platform>();
+    platform->runLoop = std::make_unique<QtRunLoop>();
+    const auto foundation = std::make_shared<Foundation>(std::move(connection), *platform->runLoop);
+    platform->foundation = foundation;
+    Foundation& shared = *foundation;
+    logWhatIsMissing(shared);
+
+    platform->systemInfo = std::make_unique<LinuxSystemInfo>();
+    platform->userDefaults = std::make_unique<JsonUserDefaults>(JsonUserDefaults::defaultPath());
+    platform->loginItem = std::make_unique<XdgAutostartLoginItem>(
+        XdgAutostartLoginItem::defaultPath(), QCoreApplication::applicationFilePath());
+    platform->screens = std::make_unique<X11Screens>(shared.windows);
+    platform->symbols = std::make_unique<DrawnSymbols>();
+    platform->windowServer = std::make_unique<X11WindowServer>(shared.connection);
+    platform->workspace = std::make_unique<EwmhWorkspace>(
+        shared.windows, shared.desktopEntries, *platform->systemInfo->bundleIdentifier());
+    platform->accessibility = std::make_unique<AtSpiAccessibility>(shared.windows, shared.session);
+    platform->keyboardEvents = std::make_unique<XTestKeyboardEvents>(
+        *shared.connection, *platform->runLoop, shared.ownKeyStrokes);
+    platform->globalKeyMonitor =
+        std::make_unique<XInputKeyMonitor>(*shared.connection, shared.inputEvents, [] {
+            return QGuiApplication::focusWindow() != nullptr;
+        });
+    platform->pointerMonitor = std::make_unique<XInputPointerMonitor>(
+        *shared.connection, shared.inputEvents, [&windows = shared.windows](PixelPoint pixel) {
+            return windows.pixelGeometry().globalPoint(pixel);
+        });
+    platform->colorPanel = std::make_unique<QtColorPanel>(*platform->windowServer);
+    platform->statusItem = std::make_unique<StatusNotifierStatusItem>(
+        *platform->runLoop, shared.statusNotifierHost, shared.xembedTray);
+    platform->alerts = std::make_unique<QtAlerts>();
+    platform->updater = std::make_unique<InertUpdater>();
+    return platform;
+}
+
+} // namespace platform
