@@ -1,6 +1,7 @@
 #include "platform/linux/x11/XTestKeyboardEvents.h"
 
 #include "core/Log.h"
+#include "platform/linux/x11/ConnectionKeeper.h"
 #include "platform/linux/x11/ShortcutChord.h"
 #include "platform/linux/x11/XcbConnection.h"
 
@@ -106,6 +107,7 @@ void XTestKeyboardEvents::send(const std::vector<KeyStroke>& strokes) {
     // With nothing else buffered the strokes fit into one write, and a local socket takes a write
     // of this size whole or not at all.
     xcb_flush(connection_.get());
+    const ConnectionKeeper keeper(xcb_get_file_descriptor(connection_.get()));
     for (const auto& [key, direction] : strokes) {
         const std::uint8_t type = direction == KeyDirection::Down ? XCB_KEY_PRESS : XCB_KEY_RELEASE;
         const auto request =
@@ -113,6 +115,9 @@ void XTestKeyboardEvents::send(const std::vector<KeyStroke>& strokes) {
         ownStrokes_.add(request.sequence, {key, direction});
     }
     xcb_flush(connection_.get());
+    // The answer to anything at all tells that the strokes have been handled.
+    static_cast<void>(
+        connection_.reply<xcb_get_input_focus_reply_t>(xcb_get_input_focus(connection_.get())));
 }
 
 void XTestKeyboardEvents::releaseStaleKeys() {

@@ -16,9 +16,9 @@ class XcbConnection;
 /// Posts keys through the server's test extension, as one chord with the modifiers' own keys.
 ///
 /// A key-down is kept until its key-up comes: only then the whole chord (modifiers down, key down,
-/// key up, modifiers up) leaves in a single write. A program that is killed has therefore sent all
-/// of it or nothing. Holding the server with a grab meanwhile would add no safety (it ends with
-/// the client, and a client that stopped while holding it would freeze the desktop).
+/// key up, modifiers up) leaves in a single write, and the server is kept handling it even when
+/// this program is killed. Holding the server with a grab would not do that: it ends with the
+/// client, and a client that stopped while holding it would freeze the desktop.
 ///
 /// Modifiers that the user holds would join in the chord. Letting them go on the user's behalf
 /// leaves one stuck when the user does so at the same moment, so posting waits for the user, and
