@@ -13,6 +13,8 @@ namespace {
 /// The pixels that are rather there than not.
 QBitmap solidPart(const QImage& picture) {
     QImage mask(picture.size(), QImage::Format_MonoLSB);
+    // Which of the two colours is which: without a table of its own a bitmap is turned over.
+    mask.setColorTable({qRgb(255, 255, 255), qRgb(0, 0, 0)});
     mask.fill(Qt::color0);
     for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x) {
