@@ -86,10 +86,13 @@ void ActiveWindow::handleRootProperty(xcb_atom_t property) {
 }
 
 void ActiveWindow::readActiveWindow() {
-    const auto active = properties_.singleWindow(connection_.root(), "_NET_ACTIVE_WINDOW");
-    active_ = active.value_or(XCB_WINDOW_NONE);
-    remember(active_);
+    const auto active = properties_.singleWindow(connection_.root(), "_NET_ACTIVE_WINDOW")
+                            .value_or(XCB_WINDOW_NONE);
     unread_ = unread_ || !connection_.isAnswering();
+    if (active != active_) {
+        active_ = active;
+        remember(active_);
+    }
 }
 
 void ActiveWindow::readWindowManager() {

@@ -1,0 +1,110 @@
+#include "platform/linux/freedesktop/DesktopEntryIndex.h"
+#include "fakes/VirtualRunLoop.h"
+#include "platform/linux/freedesktop/ApplicationFolders.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace platform {
+
+namespace {
+
+class DesktopEntryIndexTest : public testing::Test {
+protected:
+    void install(const QString& name, const QByteArray& keys = {}) {
+        const QString path = folder_.filePath(name);
+        QDir().mkpath(path.section(u'/', 0, -2));
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("[Desktop Entry]\nType=Application\n" + keys);
+        file.close();
+        // Folders keep their times in steps that two changes in a row may share.
+        const auto folder = std::filesystem::path(folder_.path().toStdString());
+        std::filesystem::last_write_time(folder, std::filesystem::last_write_time(folder) +
+                                                     std::chrono::seconds(++changes_));
+    }
+
+    bool knows(const char* id) {
+        const auto table = index_.current();
+        return table && table->withId(QString::fromLatin1(id)) != nullptr;
+    }
+
+    QTemporaryDir folder_;
+    int changes_ = 0;
+    fakes::VirtualRunLoop runLoop_;
+    DesktopEntryIndex index_{runLoop_, {folder_.path(), QStringLiteral("/no/such/folder")}, {}};
+};
+
+} // namespace
+
+TEST_F(DesktopEntryIndexTest, ReadsInTheBackgroundAtFirstUse) {
+    install(QStringLiteral("notes.desktop"));
+    install(QStringLiteral("vendor/mail.desktop"));
+    install(QStringLiteral("text.txt"));
+    int changes = 0;
+    const auto registration = index_.addChangeHandler([&changes] { ++changes; });
+    EXPECT_EQ(index_.current(), nullptr);
+    EXPECT_EQ(index_.current(), nullptr);
+    runLoop_.finishBackgroundWork();
+    EXPECT_EQ(changes, 1); // asking twice did not read twice
+    EXPECT_TRUE(knows("notes"));
+    EXPECT_TRUE(knows("vendor-mail"));
+    EXPECT_EQ(index_.current()->entries().size(), 2U);
+    runLoop_.finishBackgroundWork();
+    EXPECT_EQ(changes, 1); // and nothing is read again while nothing changed
+}
+
+TEST_F(DesktopEntryIndexTest, ReadsAgainWhenAFolderChangedAndAnswersMeanwhile) {
+    install(QStringLiteral("notes.desktop"));
+    index_.current();
+    runLoop_.finishBackgroundWork();
+    install(QStringLiteral("mail.desktop"));
+    EXPECT_FALSE(knows("mail"));
+    EXPECT_TRUE(knows("notes"));
+    runLoop_.finishBackgroundWork();
+    EXPECT_TRUE(knows("mail"));
+    QFile::remove(folder_.filePath(QStringLiteral("notes.desktop")));
+    install(QStringLiteral("mail.desktop"), "Hidden=true\n");
+    index_.current();
+    runLoop_.finishBackgroundWork();
+    EXPECT_FALSE(knows("notes"));
+    EXPECT_FALSE(knows("mail"));
+}
+
+TEST_F(DesktopEntryIndexTest, WhoCannotWaitForTheMainThreadReadsAtOnce) {
+    install(QStringLiteral("notes.desktop"));
+    EXPECT_NE(index_.wait()->withId(QStringLiteral("notes")), nullptr);
+    EXPECT_EQ(index_.current(), nullptr);
+}
+
+TEST_F(DesktopEntryIndexTest, AReadThatEndsAfterTheIndexIsGoneIsDropped) {
+    {
+        DesktopEntryIndex gone(runLoop_, {folder_.path()}, {});
+        gone.current();
+    }
+    runLoop_.finishBackgroundWork();
+    EXPECT_EQ(index_.current(), nullptr);
+}
+
+TEST(ApplicationFolders, FollowTheEnvironmentAndItsDefaults) {
+    const QByteArray dataFolders = qgetenv("XDG_DATA_DIRS");
+    const QByteArray dataHome = qgetenv("XDG_DATA_HOME");
+    qputenv("XDG_DATA_DIRS", "/opt/share/:relative:/usr/share:/opt/share");
+    qputenv("XDG_DATA_HOME", "relative");
+    const auto folders = ApplicationFolders::fromEnvironment();
+    EXPECT_EQ(folders.system, (QStringList{QStringLiteral("/opt/share/applications"),
+                                           QStringLiteral("/usr/share/applications")}));
+    EXPECT_EQ(folders.user, QDir::homePath() + QStringLiteral("/.local/share/applications"));
+    EXPECT_EQ(folders.byPrecedence().first(), folders.user);
+    qputenv("XDG_DATA_DIRS", "");
+    EXPECT_EQ(ApplicationFolders::fromEnvironment().system.first(),
+              QStringLiteral("/usr/local/share/applications"));
+    qputenv("XDG_DATA_DIRS", dataFolders);
+    qputenv("XDG_DATA_HOME", dataHome);
+}
+
+} // namespace platform

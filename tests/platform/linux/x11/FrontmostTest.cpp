@@ -1,0 +1,173 @@
+#include "XWindowsFixture.h"
+
+#include <QProcess>
+#include <QUrl>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace desktop {
+
+namespace {
+
+/// How many requests the program has sent on its connection so far, this one included.
+unsigned int requests(platform::XcbConnection& connection) {
+    const auto cookie = xcb_get_input_focus(connection.get());
+    connection.reply<xcb_get_input_focus_reply_t>(cookie);
+    return cookie.sequence;
+}
+
+} // namespace
+
+TEST_F(XWindowsTest, TheActiveWindowsApplicationIsFrontmost) {
+    const auto notes = installed();
+    ASSERT_TRUE(waitForFrontmost(installedProcess));
+    const auto application = workspace.frontmostApplication();
+    EXPECT_EQ(application->bundleIdentifier, QStringLiteral("org.example.Notes"));
+    EXPECT_EQ(application->localizedName, QStringLiteral("Notes"));
+    EXPECT_EQ(application->icon, (platform::IconReference{QStringLiteral("notes")}));
+    {
+        const auto terminal = unknown();
+        ASSERT_TRUE(waitForFrontmost(unknownProcess));
+        EXPECT_EQ(frontmostIdentifier(), "Terminal");
+        // Some programs name their windows only later.
+        terminal->setClass("Notes");
+        EXPECT_TRUE(eventually([&] { return frontmostIdentifier() == "org.example.Notes"; }));
+    }
+    EXPECT_TRUE(waitForFrontmost(installedProcess));
+}
+
+TEST_F(XWindowsTest, AskingWhileNothingChangedAsksTheServerNothing) {
+    const auto notes = installed();
+    ASSERT_TRUE(waitForFrontmost(installedProcess));
+    // Until the window manager has announced everything about the new window.
+    EXPECT_TRUE(eventually([&] {
+        const auto before = requests(*connection);
+        for (int poll = 0; poll < 100; ++poll) {
+            EXPECT_EQ(frontmostProcess(), installedProcess);
+        }
+        return requests(*connection) == before + 1;
+    }));
+}
+
+TEST_F(XWindowsTest, ActivatingBringsTheVeryWindowBackThatWasActiveLast) {
+    const auto first = installed({50, 50, 200, 100});
+    ASSERT_TRUE(waitForActive(*first));
+    const auto second = installed({300, 50, 200, 100});
+    ASSERT_TRUE(waitForActive(*second));
+    const auto target = *workspace.frontmostApplication();
+    const auto terminal = unknown();
+    ASSERT_TRUE(waitForActive(*terminal));
+
+    workspace.activate(target);
+    EXPECT_TRUE(waitForActive(*second));
+    EXPECT_EQ(windows.activeWindowClientArea(installedProcess)->width, 200);
+
+    first->focus();
+    ASSERT_TRUE(waitForActive(*first));
+    activate(unknownProcess);
+    ASSERT_TRUE(waitForActive(*terminal));
+    workspace.activate(target);
+    EXPECT_TRUE(waitForActive(*first));
+
+    // The last one was put away: the uppermost that remains.
+    activate(unknownProcess);
+    ASSERT_TRUE(waitForActive(*terminal));
+    first->hide();
+    EXPECT_TRUE(eventually([&] {
+        workspace.activate(target);
+        return windows.activeWindow().current() == second->id();
+    }));
+    activate(4999999); // nobody: nothing happens
+    EXPECT_EQ(frontmostProcess(), installedProcess);
+}
+
+TEST_F(XWindowsTest, OwnWindowsAnswerWithTheOwnIdentifier) {
+    const auto notes = installed();
+    ASSERT_TRUE(waitForFrontmost(installedProcess));
+    QWidget own;
+    own.resize(200, 100);
+    own.show();
+    own.activateWindow();
+    EXPECT_TRUE(eventually([&] { return frontmostIdentifier() == "com.corvane.Quillet"; }));
+}
+
+TEST_F(XWindowsTest, WindowsThatSayNothingHaveNoIdentifier) {
+    const XWindow bare(*applications, {});
+    ASSERT_TRUE(waitForActive(bare));
+    EXPECT_EQ(frontmostIdentifier(), "none");
+    EXPECT_EQ(frontmostProcess(), 0);
+}
+
+TEST_F(XWindowsTest, RunningApplicationsAreThoseWithOrdinaryWindows) {
+    const auto notes = installed();
+    const auto moreNotes = installed();
+    const XWindow panel(
+        *applications,
+        {.process = 4000003, .className = "Panel", .type = "_NET_WM_WINDOW_TYPE_DOCK"});
+    const XWindow pager(*applications,
+                        {.process = 4000004, .className = "Pager", .onTaskbar = false});
+    const auto terminal = unknown();
+    ASSERT_TRUE(waitForFrontmost(unknownProcess));
+    std::string found;
+    for (const auto& application : workspace.runningApplications()) {
+        found += application.bundleIdentifier->toStdString() +
+                 (application.activationPolicy == platform::ActivationPolicy::Regular ? " " : "- ");
+    }
+    EXPECT_EQ(found, "org.example.Notes Panel- Pager- Terminal ");
+}
+
+TEST_F(XWindowsTest, AServerThatAnotherClientHoldsDelaysNobody) {
+    const auto notes = installed();
+    ASSERT_TRUE(waitForFrontmost(installedProcess));
+    xcb_grab_server(user.display().get());
+    settle(user.display());
+    const auto start = std::chrono::steady_clock::now();
+    screens.pointerLocation();
+    screens.mainScreen();
+    workspace.activate(*workspace.frontmostApplication());
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(250));
+    xcb_ungrab_server(user.display().get());
+    settle(user.display());
+    ASSERT_TRUE(eventually([&] { return connection->isAnswering(); }));
+    EXPECT_TRUE(waitForFrontmost(installedProcess));
+}
+
+TEST_F(XWindowsTest, WhatNothingCanOpenIsAnsweredPlainly) {
+    EXPECT_FALSE(workspace.openUrl(
+        QUrl(QStringLiteral("x-apple.systempreferences:com.apple.preference.security"))));
+    EXPECT_FALSE(workspace.openUrl(QUrl(QStringLiteral("file:///etc/passwd"))));
+}
+
+class XWithoutManagerTest : public XWindowsTest {};
+
+TEST_F(XWithoutManagerTest, TheInputFocusTellsWhoIsFrontmostAndActivationMovesIt) {
+    EXPECT_FALSE(windows.activeWindow().hasWindowManager());
+    EXPECT_EQ(workspace.frontmostApplication(), std::nullopt);
+    const auto notes = installed();
+    const auto terminal = unknown({120, 120, 200, 100});
+    notes->focus();
+    EXPECT_EQ(frontmostIdentifier(), "org.example.Notes");
+    const auto target = *workspace.frontmostApplication();
+    terminal->focus();
+    EXPECT_EQ(frontmostProcess(), unknownProcess);
+    workspace.activate(target);
+    EXPECT_EQ(frontmostProcess(), installedProcess);
+    EXPECT_EQ(screens.mainScreen()->visibleFrame, screens.mainScreen()->frame);
+}
+
+TEST_F(XWithoutManagerTest, AWindowManagerThatComesAndGoesIsNoticed) {
+    QProcess manager;
+    manager.start(QStringLiteral("openbox"), {});
+    const auto notes = installed();
+    EXPECT_TRUE(eventually([&] { return windows.activeWindow().hasWindowManager(); }));
+    notes->focus();
+    EXPECT_TRUE(waitForFrontmost(installedProcess));
+    manager.kill();
+    EXPECT_TRUE(eventually([&] { return !windows.activeWindow().hasWindowManager(); }));
+    notes->focus();
+    EXPECT_EQ(frontmostProcess(), installedProcess);
+    manager.waitForFinished();
+}
+
+} // namespace desktop

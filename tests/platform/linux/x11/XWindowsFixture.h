@@ -1,0 +1,77 @@
+#pragma once
+
+#include "XUser.h"
+#include "fakes/VirtualRunLoop.h"
+#include "platform/linux/x11/EwmhWorkspace.h"
+#include "platform/linux/x11/X11Screens.h"
+#include "platform/linux/x11/X11WindowServer.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace desktop {
+
+/// Lets the program handle events until it is so; false when it is not within 10 s.
+bool eventually(const std::function<bool()>& condition);
+
+/// A window of some other application, which says of itself what a test wants.
+class XWindow {
+public:
+    struct Looks {
+        platform::PixelRect frame{100, 100, 200, 100};
+        platform::ProcessIdentifier process = 0;
+        std::string className = {};
+        std::string type = "_NET_WM_WINDOW_TYPE_NORMAL";
+        std::vector<std::uint32_t> strut = {};
+        bool onTaskbar = true;
+    };
+
+    XWindow(platform::XcbDisplay& display, const Looks& looks);
+    ~XWindow();
+    XWindow(const XWindow&) = delete;
+    XWindow& operator=(const XWindow&) = delete;
+
+    xcb_window_t id() const { return window_; }
+    void setClass(const std::string& name);
+    void setNumbers(const char* property, xcb_atom_t type,
+                    const std::vector<std::uint32_t>& values);
+    void focus();
+    void hide();
+
+private:
+    platform::XcbDisplay& display_;
+    xcb_window_t window_;
+};
+
+/// The program's view of the windows of two applications, 1001 (which is installed) and 1002.
+class XWindowsTest : public testing::Test {
+protected:
+    XWindowsTest();
+
+    platform::ProcessIdentifier frontmostProcess();
+    std::string frontmostIdentifier();
+    bool waitForFrontmost(platform::ProcessIdentifier process);
+    bool waitForActive(const XWindow& window);
+    void activate(platform::ProcessIdentifier process);
+
+    std::unique_ptr<XWindow> installed(platform::PixelRect frame = {100, 100, 200, 100});
+    std::unique_ptr<XWindow> unknown(platform::PixelRect frame = {400, 300, 200, 100});
+
+    static constexpr platform::ProcessIdentifier installedProcess = 4000001;
+    static constexpr platform::ProcessIdentifier unknownProcess = 4000002;
+
+    XUser user;
+    std::unique_ptr<platform::XcbDisplay> applications = platform::XcbDisplay::connect();
+    QTemporaryDir folder;
+    fakes::VirtualRunLoop runLoop;
+    std::shared_ptr<platform::XcbConnection> connection = platform::XcbConnection::open();
+    platform::EwmhWindows windows{connection};
+    platform::DesktopEntryIndex index{runLoop, {folder.path()}, {}};
+    platform::EwmhWorkspace workspace{windows, index, QStringLiteral("com.corvane.Quillet")};
+    platform::X11Screens screens{windows};
+    platform::X11WindowServer windowServer{connection};
+};
+
+} // namespace desktop
