@@ -23,14 +23,9 @@ void post(const monitor::Shortcut& shortcut) {
 
 } // namespace
 
-AppDelegate::AppDelegate()
-    : platform_(platform::current())
-    , updaterController_(*platform_.updater)
-    , menuTracking_(statusMenu_.menu(), *platform_.runLoop, *platform_.pointerMonitor) {}
-
 AppDelegate::AppDelegate(platform::Platform& platform, settings::AppSettingsManager& settings)
     : platform_(platform)
-    , settings_(&settings)
+    , settings_(settings)
     , updaterController_(*platform.updater)
     , menuTracking_(statusMenu_.menu(), *platform.runLoop, *platform.pointerMonitor) {}
 
@@ -73,9 +68,7 @@ void AppDelegate::setupMenuBar() {
 }
 
 void AppDelegate::setupMonitoring() {
-    notesMonitor_ = settings_ != nullptr
-                        ? std::make_unique<monitor::NotesMonitor>(platform_, *settings_)
-                        : std::make_unique<monitor::NotesMonitor>();
+    notesMonitor_ = std::make_unique<monitor::NotesMonitor>(platform_, settings_);
     connectSelectionToFormat();
     notesMonitor_->startMonitoring();
     if (QAction* status = statusMenu_.itemWithTag(StatusMenu::statusTag)) {

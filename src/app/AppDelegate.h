@@ -25,8 +25,6 @@ namespace app {
 /// keystroke automation. Main thread only.
 class AppDelegate : public QObject {
 public:
-    /// Works with the current platform and the program's own settings, made on their first use.
-    AppDelegate();
     /// Both must outlive the delegate.
     AppDelegate(platform::Platform& platform, settings::AppSettingsManager& settings);
     ~AppDelegate() override;
@@ -49,7 +47,7 @@ private:
     void connectSelectionToFormat();
 
     platform::Platform& platform_;
-    settings::AppSettingsManager* settings_ = nullptr;
+    settings::AppSettingsManager& settings_;
     platform::Updater& updaterController_;
 
     StatusMenu statusMenu_;

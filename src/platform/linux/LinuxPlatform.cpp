@@ -30,6 +30,7 @@
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QGuiApplication>
+#include <QWindow>
 
 namespace platform {
 
@@ -52,6 +53,16 @@ struct Foundation {
     StatusNotifierHost statusNotifierHost{session};
     XEmbedTray xembedTray{connection};
 };
+
+/// Gives every window the class by which desktops find the program's desktop entry. The toolkit has
+/// no call for it: it takes the application's name when the first native window is made, and keeps
+/// it. The same name is what trays and screen readers call the program, so it is put back.
+void setWindowClass(const QString& windowClass) {
+    const QString name = QCoreApplication::applicationName();
+    QCoreApplication::setApplicationName(windowClass);
+    QWindow().create();
+    QCoreApplication::setApplicationName(name);
+}
 
 void logWhatIsMissing(Foundation& foundation) {
     if (!foundation.session.isConnected()) {
@@ -86,6 +97,7 @@ std::unique_ptr<Platform> makePlatform() {
     if (!connection) {
         core::fatal(u"the X server went away during the start");
     }
+    setWindowClass(QStringLiteral("corvane-quillet"));
     auto platform = std::make_unique<Platform>();
     platform->runLoop = std::make_unique<QtRunLoop>();
     const auto foundation = std::make_shared<Foundation>(std::move(connection), *platform->runLoop);
