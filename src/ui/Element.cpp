@@ -26,4 +26,8 @@ void keepSizeUnlessGrowing(QBoxLayout& layout, Qt::Orientations directions) {
     item.setAlignment(alignment);
 }
 
+QSize naturalSize(const QWidget& widget) {
+    return widget.sizeHint().expandedTo(widget.minimumSize()).boundedTo(widget.maximumSize());
+}
+
 } // namespace ui

@@ -59,6 +59,9 @@ void embed(QWidget& container, Element element);
 /// directions in which it does not want to grow.
 void keepSizeUnlessGrowing(QBoxLayout& layout, Qt::Orientations directions);
 
+/// The size that a widget takes where it may choose.
+QSize naturalSize(const QWidget& widget);
+
 /// Keeps `object` alive as long as `widget`.
 template <typename T>
 void keep(QWidget& widget, T object) {

@@ -80,7 +80,7 @@ void FloatingWindow::takeShapeFromContents() {
     setOpaque(false);
     QImage picture(size(), QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
-    render(&picture, QPoint(), QRegion(), QWidget::DrawChildren);
+    render(&picture, QPoint(), QRegion(), QWidget::DrawChildren | QWidget::IgnoreMask);
     setMask(solidPart(picture));
     setOpaque(wasOpaque);
 }

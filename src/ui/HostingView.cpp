@@ -23,7 +23,7 @@ bool HostingView::event(QEvent* event) {
 }
 
 void HostingView::centre() {
-    const QSize size = root_.sizeHint();
+    const QSize size = naturalSize(root_);
     root_.setGeometry((width() - size.width()) / 2, (height() - size.height()) / 2, size.width(),
                       size.height());
 }

@@ -39,12 +39,17 @@ Modifier frame(Frame frame) {
         if (element.stage() >= Stage::Framed || !centresContents(element.widget())) {
             element = wrapped(std::move(element));
         }
+        QWidget& widget = element.widget();
+        QSizePolicy policy = widget.sizePolicy();
         if (frame.width) {
-            element.widget().setFixedWidth(*frame.width);
+            widget.setFixedWidth(*frame.width);
+            policy.setHorizontalPolicy(QSizePolicy::Fixed);
         }
         if (frame.height) {
-            element.widget().setFixedHeight(*frame.height);
+            widget.setFixedHeight(*frame.height);
+            policy.setVerticalPolicy(QSizePolicy::Fixed);
         }
+        widget.setSizePolicy(policy);
         element.setStage(Stage::Framed);
         return element;
     };

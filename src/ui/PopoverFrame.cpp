@@ -30,8 +30,7 @@ PopoverFrame::PopoverFrame(Element contents)
 }
 
 platform::Size PopoverFrame::bodySize() const {
-    const QSize size =
-        contents_.sizeHint().expandedTo(contents_.minimumSize()).boundedTo(contents_.maximumSize());
+    const QSize size = naturalSize(contents_);
     return {static_cast<double>(size.width()), static_cast<double>(size.height())};
 }
 

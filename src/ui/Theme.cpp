@@ -40,9 +40,9 @@ QColor opaque(Color color, const QPalette& palette) {
     case Color::Label:
         return role(palette, QPalette::WindowText);
     case Color::SecondaryLabel:
-        return mixed(role(palette, QPalette::WindowText), role(palette, QPalette::Window), 0.36);
+        return mixed(role(palette, QPalette::WindowText), role(palette, QPalette::Window), 0.3);
     case Color::Separator:
-        return faded(role(palette, QPalette::WindowText), dark ? 0.24 : 0.2);
+        return faded(role(palette, QPalette::WindowText), dark ? 0.24 : 0.25);
     case Color::Accent:
         return role(palette, QPalette::Highlight);
     case Color::ControlBackground:

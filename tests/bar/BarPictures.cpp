@@ -31,6 +31,7 @@ QWidget& topLevel(const QString& name) {
 
 void moveTo(QWidget& window, const QString& name) {
     const auto* widget = window.findChild<QWidget*>(name);
+    QTest::mouseMove(window.windowHandle(), {1, 1});
     QTest::mouseMove(window.windowHandle(), widget->mapTo(&window, widget->rect().center()));
 }
 

@@ -1,0 +1,73 @@
+#include "bar/BarPlacement.h"
+
+#include "fakes/FakePlatform.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace {
+
+using platform::Point;
+using platform::Rect;
+using platform::Screen;
+
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+
+// A panel of 40 points at the bottom and one of 25 at the top.
+constexpr Screen screen{{0, 0, 1920, 1080}, {0, 40, 1920, 1015}};
+
+struct Case {
+    const char* name;
+    Rect selection;
+    Point origin;
+};
+
+class BarPlacement : public testing::TestWithParam<Case> {};
+
+TEST_P(BarPlacement, StaysNearTheSelectionInsideTheVisibleFrame) {
+    EXPECT_EQ(bar::barOrigin(GetParam().selection, screen), GetParam().origin);
+}
+
+// The bar's bottom edge can be at most 1055 - 8 - 44 = 1003.
+INSTANTIATE_TEST_SUITE_P(
+    Selections, BarPlacement,
+    testing::Values(
+        Case{"InTheMiddle", {400, 500, 90, 18}, {400, 526}},
+        Case{"AsThinAsACaret", {400, 500, 0, 18}, {400, 526}},
+        Case{"TouchingTheTopMargin", {400, 977, 90, 18}, {400, 1003}},
+        Case{"JustTooHigh", {400, 977.5, 90, 18}, {400, 925.5}},
+        Case{"UnderTheTopPanel", {400, 1060, 90, 18}, {400, 1003}},
+        Case{"AtTheRightEdge", {1900, 500, 20, 18}, {1252, 526}},
+        Case{"AtTheLeftEdge", {0, 500, 20, 18}, {8, 526}},
+        Case{"FillingTheScreen", {0, 0, 1920, 1080}, {8, 48}},
+        Case{"UnderTheBottomPanel", {400, 0, 90, 18}, {400, 48}},
+        Case{"NoNumbers", {notANumber, notANumber, notANumber, notANumber}, {1252, 1003}},
+        Case{"Beyond16Bits", {1e9, -1e9, 5, 5}, {1252, 48}}),
+    [](const auto& selection) { return std::string(selection.param.name); });
+
+TEST(BarPlacementOddScreens, TheLeftAndTheBottomMarginWinOnAScreenTooSmall) {
+    const Screen tiny{{100, 100, 500, 50}, {100, 100, 500, 50}};
+    EXPECT_EQ(bar::barOrigin({300, 110, 20, 10}, tiny), (Point{108, 108}));
+}
+
+TEST(BarPlacementOddScreens, WithoutAScreenTheBarStandsAboveTheSelection) {
+    EXPECT_EQ(bar::barOrigin({-5000, 9000, 20, 10}, std::nullopt), (Point{-5000, 9018}));
+}
+
+TEST(ScreenShowing, IsTheFirstInTheSystemsOrderThatTheSelectionTouchesElseTheMainOne) {
+    const Screen right{{1920, 0, 1280, 1024}, {1920, 0, 1280, 1024}};
+    fakes::FakeScreens screens;
+    screens.all = {right, screen};
+    screens.main = screen;
+    const auto shownOn = [&](Rect rect) { return platform::screenShowing(screens, rect)->frame; };
+    EXPECT_EQ(shownOn({1900, 500, 40, 18}), right.frame);
+    EXPECT_EQ(shownOn({1880, 500, 40, 18}), screen.frame);
+    EXPECT_EQ(shownOn({2500, 500, 0, 18}), right.frame);
+    EXPECT_EQ(shownOn({9000, 500, 40, 18}), screen.frame);
+    screens.all.clear();
+    screens.main.reset();
+    EXPECT_FALSE(platform::screenShowing(screens, {0, 0, 10, 10}));
+}
+
+} // namespace

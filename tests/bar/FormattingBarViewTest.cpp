@@ -1,0 +1,187 @@
+#include "BarFixture.h"
+
+#include "ui/Theme.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QApplication>
+#include <QTest>
+#include <QWindow>
+
+namespace {
+
+struct Control {
+    const char* name;
+    const char* tooltip;
+    int width;
+    /// Whether a divider follows.
+    bool endsGroup = false;
+};
+
+constexpr Control controls[] = {
+    {"bold", "Bold", 30},
+    {"italic", "Italic", 30},
+    {"underline", "Underline", 30},
+    {"strikethrough", "Strikethrough", 30, true},
+    {"paintpalette.fill", "Text Color", 32, true},
+    {"textformat.size", "Heading", 40},
+    {"chevron.left.forwardslash.chevron.right", "Monospaced", 30},
+    {"link", "Link", 30, true},
+    {"list.bullet", "Bullet List", 30},
+    {"list.dash", "Dashed List", 30},
+    {"list.number", "Numbered List", 30},
+    {"checklist", "Checklist", 30, true},
+    {"decrease.indent", "Decrease Indent", 30},
+    {"increase.indent", "Increase Indent", 30, true},
+    {"textformat.size.smaller", "Decrease Text Size", 30},
+    {"textformat.size.larger", "Increase Text Size", 30, true},
+    {"textformat", "Remove Formatting", 30},
+};
+
+class FormattingBarView : public BarFixture {
+protected:
+    /// A colour laid over another, as the bar's material is below everything on it.
+    static QColor over(QColor top, QColor below) {
+        const double share = top.alphaF();
+        const auto mixed = [share](int a, int b) { return qRound(b + (a - b) * share); };
+        return {mixed(top.red(), below.red()), mixed(top.green(), below.green()),
+                mixed(top.blue(), below.blue())};
+    }
+
+    void expectNear(QColor actual, QColor expected) {
+        EXPECT_NEAR(actual.red(), expected.red(), 4);
+        EXPECT_NEAR(actual.green(), expected.green(), 4);
+        EXPECT_NEAR(actual.blue(), expected.blue(), 4);
+    }
+
+    QColor highlight(double opacity, ui::Color material) {
+        const QPalette palette = QApplication::palette();
+        return over(ui::color({ui::Color::Accent, opacity}, palette),
+                    ui::color({material}, palette));
+    }
+};
+
+TEST_F(FormattingBarView, LaysOutEveryControlAndDividerToThePoint) {
+    show(2);
+    const QWidget& bar = window();
+    EXPECT_EQ(place(bar, "FormattingBarView"), QRect(10, 3, 640, 38));
+    const auto dividers = bar.findChildren<QWidget*>(QStringLiteral("divider"));
+    auto divider = dividers.begin();
+    int x = 10 + 10;
+    for (const Control& control : controls) {
+        EXPECT_EQ(place(bar, control.name), QRect(x, 9, control.width, 26)) << control.name;
+        x += control.width + 2;
+        if (control.endsGroup) {
+            ASSERT_NE(divider, dividers.end());
+            EXPECT_EQ(QRect((*divider)->mapTo(&bar, QPoint()), (*divider)->size()),
+                      QRect(x, 10, 9, 24));
+            x += 9 + 2;
+            ++divider;
+        }
+    }
+    EXPECT_EQ(divider, dividers.end());
+    EXPECT_EQ(x - 2, 10 + 640 - 10);
+    EXPECT_EQ(bar.findChildren<QAbstractButton*>().size(), 17);
+}
+
+TEST_F(FormattingBarView, NamesEveryControlForThePointerAndForAssistiveTechnology) {
+    show();
+    for (const Control& control : controls) {
+        auto* button = window().findChild<QWidget*>(QString::fromLatin1(control.name));
+        ASSERT_NE(button, nullptr) << control.name;
+        const QString title = QString::fromLatin1(control.tooltip);
+        EXPECT_EQ(button->toolTip(), title);
+        auto* accessible = QAccessible::queryAccessibleInterface(button);
+        EXPECT_EQ(accessible->text(QAccessible::Name), title);
+        EXPECT_EQ(accessible->role(), QAccessible::Button);
+        EXPECT_EQ(button->focusPolicy(), Qt::NoFocus);
+    }
+    EXPECT_TRUE(window().testAttribute(Qt::WA_AlwaysShowToolTips));
+}
+
+TEST_F(FormattingBarView, ReportsExactlyTheFormatOfEachIcon) {
+    show(2);
+    for (const Control& control : controls) {
+        reports_.clear();
+        click(window(), control.name);
+        const QString title = QString::fromLatin1(control.tooltip);
+        if (title == QStringLiteral("Heading")) {
+            EXPECT_TRUE(reports_.empty());
+        } else {
+            const auto expected =
+                title == QStringLiteral("Text Color") ? QStringLiteral("colour") : title;
+            EXPECT_EQ(reports_, std::vector{expected});
+        }
+    }
+}
+
+TEST_F(FormattingBarView, IsCutOffEvenlyInItsFirstWindowAndWhatIsLeftCanBeClicked) {
+    show();
+    ASSERT_EQ(window().size(), QSize(590, 44));
+    EXPECT_EQ(place(window(), "FormattingBarView"), QRect(-25, 3, 640, 38));
+    // Of the first button 15 points are left, of the last one too.
+    EXPECT_EQ(place(window(), "bold"), QRect(-15, 9, 30, 26));
+    click(window(), QPoint(1, 22));
+    click(window(), QPoint(14, 10));
+    click(window(), QPoint(588, 34));
+    click(window(), QPoint(16, 22)); // between the first two
+    EXPECT_EQ(reports_, (std::vector{QStringLiteral("Bold"), QStringLiteral("Bold"),
+                                     QStringLiteral("Remove Formatting")}));
+}
+
+TEST_F(FormattingBarView, HighlightsTheButtonUnderThePointerAtAFifthOfTheAccent) {
+    show(2);
+    for (const char* name : {"bold", "textformat.size", "paintpalette.fill"}) {
+        const QRect button = place(window(), name);
+        const QPoint beside = button.topLeft() + QPoint(3, 3);
+        const QColor before = pixel(window(), beside);
+        pointAt(window(), button.center());
+        expectNear(pixel(window(), beside), highlight(0.2, ui::Color::HudMaterial));
+        // Rounded: the corner keeps the material.
+        EXPECT_EQ(pixel(window(), button.topLeft()), before) << name;
+        pointAt(window(), {325, 2});
+        EXPECT_EQ(pixel(window(), beside), before) << name;
+    }
+}
+
+TEST_F(FormattingBarView, TheHeadingButtonStaysHighlightedWhileItsPickerIsOpen) {
+    show(2);
+    const QPoint beside = place(window(), "textformat.size").topLeft() + QPoint(3, 3);
+    click(window(), "textformat.size");
+    pointAt(window(), {325, 2});
+    expectNear(pixel(window(), beside), highlight(0.2, ui::Color::HudMaterial));
+    click(window(), "textformat.size");
+    pointAt(window(), {325, 2});
+    expectNear(pixel(window(), beside), highlight(0, ui::Color::HudMaterial));
+}
+
+TEST_F(FormattingBarView, TheColourButtonRunsThroughTheRainbow) {
+    show(2);
+    const QRect button = place(window(), "paintpalette.fill");
+    // The test's symbols are full squares of 14 points in the middle of the button.
+    const int left = button.left() + 9;
+    const int y = button.center().y();
+    EXPECT_EQ(pixel(window(), {left + 2, y}), pixel(window(), {left + 2, y - 3}));
+    double hue = -1;
+    for (int x = left; x < left + 14; ++x) {
+        const double next = pixel(window(), {x, y}).hueF();
+        EXPECT_GT(next, hue) << "at " << x - left;
+        hue = next;
+    }
+    const auto hueOf = [](ui::Color color) {
+        return ui::color({color}, QApplication::palette()).hueF();
+    };
+    EXPECT_NEAR(pixel(window(), {left, y}).hueF(), hueOf(ui::Color::Red), 0.05);
+    EXPECT_NEAR(hue, hueOf(ui::Color::Purple), 0.05);
+}
+
+TEST_F(FormattingBarView, AButtonLetGoOutsideReportsNothing) {
+    show(2);
+    QTest::mousePress(window().windowHandle(), Qt::LeftButton, {},
+                      place(window(), "bold").center());
+    QTest::mouseRelease(window().windowHandle(), Qt::LeftButton, {},
+                        place(window(), "link").center());
+    EXPECT_TRUE(reports_.empty());
+}
+
+} // namespace

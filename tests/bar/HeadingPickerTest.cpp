@@ -1,0 +1,186 @@
+#include "BarFixture.h"
+
+#include "ui/PopoverPlacement.h"
+#include "ui/Theme.h"
+
+#include <QApplication>
+#include <QFontInfo>
+#include <QPainter>
+
+namespace {
+
+using platform::DismissReason;
+using platform::Rect;
+
+class HeadingPicker : public BarFixture {
+protected:
+    void open() { click(window(), "textformat.size"); }
+    bool isOpen() const { return hasWindow("textformat.size.popover") && picker().isVisible(); }
+    Rect frame() const { return fake_.windowServer.frames.at(&picker()); }
+    Rect headingButton() {
+        return fake_.windowServer.frameOnScreen(
+            *window().findChild<QWidget*>(QStringLiteral("textformat.size")));
+    }
+    void press(platform::Point point) {
+        fake_.pointerMonitor.events.notify({DismissReason::PointerPressed, point});
+    }
+};
+
+TEST_F(HeadingPicker, OpensAndClosesByItsButtonAndReportsNothing) {
+    show(2);
+    EXPECT_FALSE(hasWindow("textformat.size.popover"));
+    open();
+    EXPECT_TRUE(isOpen());
+    open();
+    EXPECT_FALSE(isOpen());
+    open();
+    EXPECT_TRUE(isOpen());
+    EXPECT_TRUE(reports_.empty());
+}
+
+TEST_F(HeadingPicker, HangsWithItsArrowOnTheButtonsBottomEdgeAndFollowsTheBar) {
+    show(2);
+    open();
+    const auto expectHanging = [this] {
+        const Rect button = headingButton();
+        EXPECT_EQ(frame().width, 140);
+        EXPECT_EQ(frame().maxY(), button.minY());
+        EXPECT_EQ(frame().x + 70, button.x + button.width / 2);
+    };
+    expectHanging();
+    controller_->show({700, 300, 40, 18});
+    EXPECT_EQ(headingButton().maxY(), 326 + 35);
+    expectHanging();
+    // The arrow lies over the bar, whichever of the two came to the front last.
+    fake_.record.clear();
+    QApplication::processEvents();
+    EXPECT_EQ(fake_.record, fakes::Record{"order front"});
+}
+
+TEST_F(HeadingPicker, OpensAboveTheButtonWhereThereIsNoRoomBelow) {
+    controller_->show({400, 20, 40, 18});
+    open();
+    EXPECT_EQ(frame().minY(), headingButton().maxY());
+}
+
+TEST_F(HeadingPicker, LaysOutItsRowsInTheFontsOfTheirLevels) {
+    show(2);
+    open();
+    struct Row {
+        const char* label;
+        int size;
+        QFont::Weight weight;
+    };
+    int y = static_cast<int>(ui::PopoverMetrics::arrowHeight) + 8;
+    for (const Row& row :
+         {Row{"Title", 18, QFont::Bold}, Row{"Heading", 15, QFont::Bold},
+          Row{"Subheading", 13, QFont::DemiBold}, Row{"Body", 13, QFont::Normal}}) {
+        if (QLatin1String(row.label) == QLatin1String("Body")) {
+            y += 1 + 4; // the divider
+        }
+        const QRect place = BarFixture::place(picker(), row.label);
+        const auto* button = picker().findChild<QWidget*>(QString::fromLatin1(row.label));
+        EXPECT_EQ(button->accessibleName(), QString::fromLatin1(row.label));
+        EXPECT_TRUE(button->toolTip().isEmpty());
+        const auto labels = button->findChildren<QWidget*>();
+        const auto text = std::ranges::find(labels, button->accessibleName(),
+                                            [](auto* label) { return label->accessibleName(); });
+        ASSERT_NE(text, labels.end());
+        EXPECT_EQ((*text)->font().pixelSize(), row.size);
+        EXPECT_EQ((*text)->font().weight(), row.weight);
+        EXPECT_EQ((*text)->mapTo(button, QPoint()), QPoint(8, 4));
+        EXPECT_EQ(place, QRect(8, y, 124, (*text)->height() + 8)) << row.label;
+        y += place.height() + 4;
+    }
+    EXPECT_EQ(picker().height(), y - 4 + 8);
+}
+
+TEST_F(HeadingPicker, IsClosedByTheTimeItsChoiceIsReported) {
+    show(2);
+    std::vector<std::pair<bar::HeadingLevel, bool>> reports;
+    controller_->onHeadingSelected = [&](bar::HeadingLevel level) {
+        reports.emplace_back(level, isOpen());
+    };
+    for (const char* label : {"Title", "Heading", "Subheading", "Body"}) {
+        open();
+        click(picker(), label);
+    }
+    EXPECT_EQ(reports, (decltype(reports){{1, false}, {2, false}, {3, false}, {0, false}}));
+}
+
+TEST_F(HeadingPicker, HighlightsTheRowUnderThePointerAtThreeTenthsOfTheAccent) {
+    show(2);
+    open();
+    const QRect row = place(picker(), "Heading");
+    const QPoint end(row.right() - 4, row.center().y());
+    const QPalette palette = QApplication::palette();
+    QImage expected(1, 1, QImage::Format_ARGB32_Premultiplied);
+    expected.fill(ui::color({ui::Color::PopoverMaterial}, palette));
+    QPainter(&expected).fillRect(0, 0, 1, 1, ui::color({ui::Color::Accent, 0.3}, palette));
+    const QColor colour = expected.pixelColor(0, 0);
+
+    pointAt(picker(), row.center());
+    const QColor hovered = pixel(picker(), end);
+    EXPECT_NEAR(hovered.red(), colour.red(), 4);
+    EXPECT_NEAR(hovered.blue(), colour.blue(), 4);
+    // Chosen, the row is not highlighted any more when the picker opens again.
+    click(picker(), "Heading");
+    open();
+    EXPECT_GT(pixel(picker(), end).red(), hovered.red() + 20);
+}
+
+TEST_F(HeadingPicker, IsDismissedByAPressElsewhereEscapeOrAnotherActiveWindow) {
+    show(2);
+    for (const DismissReason reason : {DismissReason::PointerPressed, DismissReason::EscapePressed,
+                                       DismissReason::ActiveWindowChanged}) {
+        open();
+        ASSERT_TRUE(isOpen());
+        fake_.pointerMonitor.events.notify({reason, {5, 5}});
+        EXPECT_FALSE(isOpen());
+    }
+    // It listens no longer: what happens now leaves the state as it is.
+    press({5, 5});
+    open();
+    EXPECT_TRUE(isOpen());
+    EXPECT_TRUE(reports_.empty());
+}
+
+TEST_F(HeadingPicker, APressInItselfOrOnItsButtonDoesNotDismissIt) {
+    show(2);
+    open();
+    press({frame().x + 1, frame().y + 1});
+    EXPECT_TRUE(isOpen());
+    const Rect button = headingButton();
+    press({button.x + 1, button.y + 1});
+    open(); // the click that this press was: the toggle, once
+    EXPECT_FALSE(isOpen());
+}
+
+TEST_F(HeadingPicker, GoesAndComesBackWithTheBar) {
+    show(2);
+    open();
+    controller_->hide();
+    fake_.runLoop.advance(0.3);
+    EXPECT_FALSE(isOpen());
+    press({5, 5});
+    controller_->show({600, 300, 10, 18});
+    EXPECT_TRUE(isOpen());
+    EXPECT_EQ(frame().maxY(), headingButton().minY());
+    press({5, 5});
+    controller_->hide();
+    fake_.runLoop.advance(0.3);
+    show();
+    EXPECT_FALSE(isOpen());
+}
+
+TEST_F(HeadingPicker, GoesWithTheControllerAlsoFromItsOwnChoice) {
+    show(2);
+    open();
+    controller_->onHeadingSelected = [this](bar::HeadingLevel) { controller_.reset(); };
+    click(picker(), "Title");
+    EXPECT_FALSE(hasWindow("bar"));
+    EXPECT_FALSE(hasWindow("textformat.size.popover"));
+    press({5, 5});
+}
+
+} // namespace

@@ -1,0 +1,69 @@
+#include "ui/Theme.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+using ui::Color;
+
+QPalette palette(QRgb window, QRgb text) {
+    QPalette palette;
+    palette.setColor(QPalette::Window, QColor(window));
+    palette.setColor(QPalette::WindowText, QColor(text));
+    return palette;
+}
+
+double contrast(const QColor& first, const QColor& second) {
+    const auto luminance = [](const QColor& color) {
+        const auto linear = [](double c) {
+            return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+               0.0722 * linear(color.blueF());
+    };
+    const std::pair lights(luminance(first), luminance(second));
+    return (std::max(lights.first, lights.second) + 0.05) /
+           (std::min(lights.first, lights.second) + 0.05);
+}
+
+TEST(Theme, TextStandsOutFromEveryMaterialInLightAndDark) {
+    for (const QPalette& desktop :
+         {palette(0xefefef, 0x000000), palette(0xfafafa, 0x2e3436), palette(0x2b2b2e, 0xf2f2f4)}) {
+        for (const Color material : {Color::HudMaterial, Color::PopoverMaterial}) {
+            const QColor ground = ui::color({material}, desktop);
+            EXPECT_GE(contrast(ui::color({Color::Label}, desktop), ground), 7);
+            EXPECT_GE(contrast(ui::color({Color::SecondaryLabel}, desktop), ground), 4.5);
+        }
+    }
+}
+
+TEST(Theme, MaterialsAreTranslucentAndKeepTheDesktopsSide) {
+    const QColor dark = ui::color({Color::HudMaterial}, palette(0x202020, 0xffffff));
+    const QColor light = ui::color({Color::HudMaterial}, palette(0xeeeeee, 0x000000));
+    EXPECT_LT(dark.lightnessF(), 0.3);
+    EXPECT_GT(light.lightnessF(), 0.9);
+    EXPECT_LT(dark.alpha(), 255);
+    EXPECT_GT(dark.alpha(), 240);
+}
+
+TEST(Theme, TheAccentIsThatOfAnActiveWindowThinnedByItsOpacity) {
+    QPalette desktop;
+    desktop.setColor(QPalette::Active, QPalette::Highlight, QColor(0xff3366cc));
+    desktop.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0xff888888));
+    desktop.setCurrentColorGroup(QPalette::Inactive);
+    const QColor accent = ui::color({Color::Accent, 0.2}, desktop);
+    EXPECT_EQ(accent.rgb(), 0xff3366cc);
+    EXPECT_NEAR(accent.alphaF(), 0.2, 0.01);
+    EXPECT_EQ(ui::color({}, desktop).alpha(), 0);
+}
+
+TEST(Theme, APointIsAPixelAtAnyResolution) {
+    EXPECT_EQ(ui::font(18, ui::Weight::Bold).pixelSize(), 18);
+    EXPECT_EQ(ui::font(13, ui::Weight::Semibold).weight(), QFont::DemiBold);
+    EXPECT_FALSE(ui::font(13, ui::Weight::Regular).resolveMask() & QFont::FamilyResolved);
+}
+
+} // namespace
