@@ -82,12 +82,12 @@ Accessibility::Element AtSpiAccessibility::focusedElement(const Element& applica
         return nullptr;
     }
     const auto now = Clock::now();
-    if (canReuse(known->process, now)) {
-        return found_;
-    }
     const auto guard = guards_.constFind(known->process);
     if (guard != guards_.cend() && guard->isLeftAlone(now)) {
         return nullptr;
+    }
+    if (canReuse(known->process, now)) {
+        return found_;
     }
     auto found = look(known->process);
     if (inquiry_->ranOut()) {

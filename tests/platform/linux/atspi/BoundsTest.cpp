@@ -1,0 +1,112 @@
+#include "platform/linux/atspi/AtSpiFixture.h"
+
+using fakes::FakeObject;
+using platform::Extents;
+using platform::PixelRect;
+using platform::Rect;
+
+namespace {
+
+class BoundsTest : public fakes::AtSpiFixture {
+protected:
+    BoundsTest()
+        : application(desktop.addApplication()) {
+        start();
+    }
+
+    std::optional<Rect> boundsOf(const FakeObject& object) {
+        show(application, object);
+        accessibility.emplace(windows, desktop.session(), limits);
+        EXPECT_TRUE(accessibility->isProcessTrusted(platform::TrustPrompt::Hidden));
+        return look().bounds;
+    }
+    std::optional<Rect> boundsFor(const Extents& extents) {
+        auto object = focusedText(QStringLiteral("text"), {{0, 4}});
+        object.ranges.insert({0, 4}, extents);
+        return boundsOf(object);
+    }
+
+    fakes::FakeApplication& application;
+};
+
+TEST_F(BoundsTest, WhatIsSomewhereAndWhatIsNowhere) {
+    EXPECT_EQ(boundsFor({10, 20, 30, 40}), (Rect{10, 20, 30, 40}));
+    // As thin as a caret.
+    EXPECT_EQ(boundsFor({10, 20, 0, 40}), (Rect{10, 20, 0, 40}));
+    EXPECT_EQ(boundsFor({0, 0, 0, 0}), std::nullopt);
+    EXPECT_EQ(boundsFor({-1, -1, 0, 0}), std::nullopt);
+    EXPECT_EQ(boundsFor({10, 20, -30, 40}), std::nullopt);
+    EXPECT_EQ(boundsFor({INT_MIN, INT_MIN, 1, 1}), std::nullopt);
+    EXPECT_EQ(boundsFor({INT_MAX, 5, INT_MAX, INT_MAX}), std::nullopt);
+}
+
+TEST_F(BoundsTest, OnlyWhatCanBeSeenCounts) {
+    windows.clientArea = PixelRect{100, 100, 400, 300};
+    EXPECT_EQ(boundsFor({50, 50, 1000, 100}), (Rect{100, 100, 400, 50}));
+    // Scrolled out of its window.
+    EXPECT_EQ(boundsFor({120, 50, 100, 20}), std::nullopt);
+
+    windows.clientArea = std::nullopt;
+    windows.geometry = platform::PixelGeometry({{{0, 0, 1000, 800}, {0, 0, 1000, 800}, 1, true}});
+    EXPECT_EQ(boundsFor({900, 700, 300, 300}), (Rect{900, 700, 100, 100}));
+    EXPECT_EQ(boundsFor({1100, 700, 300, 300}), std::nullopt);
+}
+
+TEST_F(BoundsTest, PixelsBecomePoints) {
+    windows.clientArea = std::nullopt;
+    windows.geometry = platform::PixelGeometry({{{0, 0, 2000, 1600}, {0, 0, 2000, 1600}, 2, true}});
+    EXPECT_EQ(boundsFor({100, 200, 300, 40}), (Rect{50, 100, 150, 20}));
+}
+
+TEST_F(BoundsTest, SeveralPiecesAreUnited) {
+    auto object = focusedText(QStringLiteral("one two three"), {{0, 3}, {4, 7}, {8, 13}});
+    object.ranges.insert({0, 3}, {10, 20, 30, 10});
+    object.ranges.insert({8, 13}, {5, 40, 10, 10});
+    EXPECT_EQ(boundsOf(object), (Rect{5, 20, 35, 30}));
+}
+
+TEST_F(BoundsTest, NoAnswerOrAWrongOneIsNone) {
+    auto object = focusedText(QStringLiteral("text"), {{0, 4}});
+    object.misbehaviours.insert(QStringLiteral("GetRangeExtents"),
+                                {fakes::Misbehaviour::Kind::Error, {}});
+    EXPECT_EQ(boundsOf(object), std::nullopt);
+    object.misbehaviours.insert(
+        QStringLiteral("GetRangeExtents"),
+        {fakes::Misbehaviour::Kind::Answer, {QVariant::fromValue(Extents{1, 2, 3, 4})}});
+    EXPECT_EQ(boundsOf(object), std::nullopt);
+}
+
+TEST_F(BoundsTest, OfALongTextPiecesAreAskedFor) {
+    auto object = focusedText(QString(100'000, u'a'), {{0, 100'000}});
+    object.ranges.insert({0, 48}, {10, -5000, 400, 20});
+    object.ranges.insert({99'952, 100'000}, {10, 90'000, 200, 20});
+    windows.clientArea = PixelRect{0, 50, 500, 300};
+    // Begins above the window and ends below it: it fills the window.
+    EXPECT_EQ(boundsOf(object), (Rect{10, 50, 400, 300}));
+}
+
+TEST_F(BoundsTest, APaneThatForgetsTheMenuBarIsPutRight) {
+    windows.clientArea = PixelRect{0, 19, 1280, 781};
+    FakeObject pane;
+    pane.role = static_cast<unsigned>(platform::Role::RootPane);
+    application.set(QStringLiteral("/pane"), pane);
+    auto object = focusedText(QStringLiteral("text"), {{0, 4}});
+    object.parent = QStringLiteral("/pane");
+    object.ranges.insert({0, 4}, {282, 217, 303, 19});
+
+    pane.extents = {0, 19, 1280, 756};
+    application.set(QStringLiteral("/pane"), pane);
+    EXPECT_EQ(boundsOf(object), (Rect{282, 242, 303, 19}));
+
+    // It may know better at any time.
+    pane.extents = {0, 44, 1280, 756};
+    application.set(QStringLiteral("/pane"), pane);
+    EXPECT_EQ(look().bounds, (Rect{282, 217, 303, 19}));
+
+    // A pane of another size tells nothing.
+    pane.extents = {0, 19, 600, 756};
+    application.set(QStringLiteral("/pane"), pane);
+    EXPECT_EQ(look().bounds, (Rect{282, 217, 303, 19}));
+}
+
+} // namespace
