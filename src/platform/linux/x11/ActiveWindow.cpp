@@ -32,7 +32,7 @@ bool ActiveWindow::hasWindowManager() {
         readWindowManager();
         readActiveWindow();
     }
-    return managerSign_ != XCB_WINDOW_NONE;
+    return managed_;
 }
 
 std::optional<xcb_window_t> ActiveWindow::current() {
@@ -58,6 +58,8 @@ void ActiveWindow::handle(const xcb_generic_event_t& event) {
         const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
         if (change.window == connection_.root()) {
             handleRootProperty(change.atom);
+        } else if (change.window == managerSign_ && !managed_) {
+            readWindowManager();
         } else if (change.window == active_) {
             propertyHandlers_.notify(change.window, change.atom);
         }
@@ -97,12 +99,14 @@ void ActiveWindow::readActiveWindow() {
 
 void ActiveWindow::readWindowManager() {
     // A window manager that died leaves its mark on the root window behind, but not the window
-    // that the mark names.
-    const auto sign = properties_.singleWindow(connection_.root(), "_NET_SUPPORTING_WM_CHECK");
-    const bool alive = sign && properties_.singleWindow(*sign, "_NET_SUPPORTING_WM_CHECK") == sign;
-    managerSign_ = alive ? *sign : xcb_window_t{XCB_WINDOW_NONE};
-    if (alive) {
-        watch(managerSign_, XCB_EVENT_MASK_STRUCTURE_NOTIFY);
+    // that the mark names. One that starts may mark the root window first: hence watch, then read.
+    managerSign_ = properties_.singleWindow(connection_.root(), "_NET_SUPPORTING_WM_CHECK")
+                       .value_or(XCB_WINDOW_NONE);
+    managed_ = false;
+    if (managerSign_ != XCB_WINDOW_NONE) {
+        watch(managerSign_, XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE);
+        managed_ =
+            properties_.singleWindow(managerSign_, "_NET_SUPPORTING_WM_CHECK") == managerSign_;
     }
 }
 
@@ -137,14 +141,19 @@ std::optional<xcb_window_t> ActiveWindow::focusedTopLevel() {
     }
     // Bounded, although no toolkit nests its windows that deep.
     xcb_window_t window = focus->focus;
+    std::optional<xcb_window_t> client;
     for (int depth = 0; window != XCB_WINDOW_NONE && depth < 64; ++depth) {
         const auto tree =
             connection_.reply<xcb_query_tree_reply_t>(xcb_query_tree(connection, window));
         if (!tree) {
             return std::nullopt;
         }
+        // The outermost that names an application: a frame drawn around it does not.
+        if (properties_.windowClass(window) || properties_.process(window)) {
+            client = window;
+        }
         if (tree->parent == connection_.root()) {
-            return window;
+            return client ? client : std::optional(window);
         }
         window = tree->parent;
     }

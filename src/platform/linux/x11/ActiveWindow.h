@@ -44,8 +44,9 @@ private:
     core::Observers<xcb_window_t, xcb_atom_t> propertyHandlers_;
     std::map<ProcessIdentifier, xcb_window_t> lastWindows_;
     xcb_window_t active_ = XCB_WINDOW_NONE;
-    /// The window by which the window manager shows that it lives.
+    /// The window by which a window manager shows that it lives.
     xcb_window_t managerSign_ = XCB_WINDOW_NONE;
+    bool managed_ = false;
     /// Set when the server did not answer what a change made necessary to read.
     bool unread_ = false;
     core::Registration events_;

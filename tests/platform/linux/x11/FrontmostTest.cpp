@@ -156,6 +156,23 @@ TEST_F(XWithoutManagerTest, TheInputFocusTellsWhoIsFrontmostAndActivationMovesIt
     EXPECT_EQ(screens.mainScreen()->visibleFrame, screens.mainScreen()->frame);
 }
 
+TEST_F(XWithoutManagerTest, AManagerIsKnownByItsSignInWhateverOrderItIsGiven) {
+    {
+        XWindow sign(*applications, {});
+        const xcb_window_t id = sign.id();
+        xcb_change_property(applications->get(), XCB_PROP_MODE_REPLACE, applications->root(),
+                            applications->atom("_NET_SUPPORTING_WM_CHECK"), XCB_ATOM_WINDOW, 32, 1,
+                            &id);
+        settle(*applications);
+        EXPECT_FALSE(windows.activeWindow().hasWindowManager());
+        sign.setNumbers("_NET_SUPPORTING_WM_CHECK", XCB_ATOM_WINDOW, {id});
+        settle(*applications);
+        EXPECT_TRUE(eventually([&] { return windows.activeWindow().hasWindowManager(); }));
+    }
+    // The root window keeps the mark of a manager that died.
+    EXPECT_TRUE(eventually([&] { return !windows.activeWindow().hasWindowManager(); }));
+}
+
 TEST_F(XWithoutManagerTest, AWindowManagerThatComesAndGoesIsNoticed) {
     QProcess manager;
     manager.start(QStringLiteral("openbox"), {});
