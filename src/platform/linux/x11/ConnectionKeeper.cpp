@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
 #include <csignal>
 
 namespace platform {
@@ -15,19 +16,25 @@ namespace {
 
 /// The life of the second process. Nothing that allocates or locks: the threads that would unlock
 /// do not exist in it.
-[[noreturn]] void keep(int socket, int word) {
-    constexpr int keptWord = 3;
+[[noreturn]] void keep(int socket, int lifeline) {
+    constexpr int keptLifeline = 3;
     constexpr int keptSocket = 4;
     // Moved out of the way first, since either may have the number of the other's place.
-    word = fcntl(word, F_DUPFD, keptSocket + 1);
+    lifeline = fcntl(lifeline, F_DUPFD, keptSocket + 1);
     socket = fcntl(socket, F_DUPFD, keptSocket + 1);
-    dup2(word, keptWord);
+    dup2(lifeline, keptLifeline);
     dup2(socket, keptSocket);
     // The program's other connections are to close with the program, and so is the writing end.
     close_range(keptSocket + 1, ~0U, 0);
 
     std::array<char, 4096> bytes{};
-    if (read(keptWord, bytes.data(), 1) == 1) {
+    // Nothing is ever written: the end of the stream is the end of the program. Anything else must
+    // leave the connection alone, since the program still uses it.
+    ssize_t count = 0;
+    do {
+        count = read(keptLifeline, bytes.data(), 1);
+    } while (count < 0 && errno == EINTR);
+    if (count != 0) {
         _exit(0);
     }
     shutdown(keptSocket, SHUT_WR);
@@ -56,18 +63,17 @@ ConnectionKeeper::ConnectionKeeper(int socket) {
     }
     pthread_sigmask(SIG_SETMASK, &before, nullptr);
     close(ends[0]);
-    word_ = ends[1];
+    lifeline_ = ends[1];
 }
 
 ConnectionKeeper::~ConnectionKeeper() {
-    if (word_ < 0) {
-        return;
-    }
-    const char done = 1;
-    [[maybe_unused]] const auto written = write(word_, &done, 1);
-    close(word_);
     if (keeper_ > 0) {
+        // Ends it even if somebody stopped it.
+        kill(keeper_, SIGKILL);
         waitpid(keeper_, nullptr, 0);
+    }
+    if (lifeline_ >= 0) {
+        close(lifeline_);
     }
 }
 

@@ -8,9 +8,9 @@ namespace platform {
 /// while this object lives. Without it the server drops what it has read and not yet handled once
 /// it notices that the client is gone, half of a chord included.
 ///
-/// A second process holds the connection meanwhile. If this program goes without a word, it says
-/// that no more will be sent, waits until the server has handled the rest and hung up, and goes.
-/// Where no process can be started there is simply no such protection.
+/// A second process holds the connection meanwhile. If this program goes, it says that no more
+/// will be sent, waits until the server has handled the rest and hung up, and goes as well. Where
+/// no process can be started there is simply no such protection.
 class ConnectionKeeper {
 public:
     /// `socket` is the connection's file descriptor.
@@ -21,8 +21,8 @@ public:
 
 private:
     pid_t keeper_ = -1;
-    /// Closing it without a word tells that this program is gone.
-    int word_ = -1;
+    /// Closes with this program, whatever ends it.
+    int lifeline_ = -1;
 };
 
 } // namespace platform
