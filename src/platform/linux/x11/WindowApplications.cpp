@@ -1,6 +1,5 @@
 #include "platform/linux/x11/WindowApplications.h"
 
-#include "platform/linux/freedesktop/ApplicationIdentity.h"
 #include "platform/linux/freedesktop/RunningProcess.h"
 
 #include <QCoreApplication>
@@ -15,6 +14,9 @@ namespace {
 
 constexpr std::array clueProperties{"_GTK_APPLICATION_ID", "_KDE_NET_WM_DESKTOP_FILE",
                                     "_BAMF_DESKTOP_FILE"};
+
+/// Dialogs of dialogs are followed no further.
+constexpr int deepestDialog = 4;
 
 template <typename Range, typename Value>
 bool contains(const Range& range, const Value& value) {
@@ -36,15 +38,7 @@ WindowApplications::WindowApplications(XcbDisplay& display, const DesktopEntryTa
     , table_(table)
     , ownIdentifier_(std::move(ownIdentifier)) {}
 
-RunningApplication WindowApplications::applicationOf(xcb_window_t window) const {
-    RunningApplication application;
-    application.processIdentifier = properties_.process(window).value_or(0);
-    if (application.processIdentifier == QCoreApplication::applicationPid()) {
-        application.bundleIdentifier = ownIdentifier_;
-        application.localizedName = QCoreApplication::applicationName();
-        application.activationPolicy = ActivationPolicy::Accessory;
-        return application;
-    }
+ApplicationClues WindowApplications::cluesOf(xcb_window_t window, ProcessIdentifier process) const {
     const auto clue = [&](const char* property) {
         return properties_.text(window, property).value_or(QString());
     };
@@ -56,12 +50,33 @@ RunningApplication WindowApplications::applicationOf(xcb_window_t window) const 
         clues.windowClass = names->name;
         clues.windowInstance = names->instance;
     }
-    if (application.processIdentifier != 0) {
-        const auto process = RunningProcess::read(application.processIdentifier);
-        clues.programs = process.programs;
-        clues.controlGroup = process.controlGroup;
+    if (process != 0) {
+        auto running = RunningProcess::read(process);
+        clues.programs = std::move(running.programs);
+        clues.controlGroup = std::move(running.controlGroup);
     }
+    return clues;
+}
+
+RunningApplication WindowApplications::applicationOf(xcb_window_t window) const {
+    RunningApplication application;
+    application.processIdentifier = properties_.process(window).value_or(0);
+    if (application.processIdentifier == QCoreApplication::applicationPid()) {
+        application.bundleIdentifier = ownIdentifier_;
+        application.localizedName = QCoreApplication::applicationName();
+        application.activationPolicy = ActivationPolicy::Accessory;
+        return application;
+    }
+    const auto clues = cluesOf(window, application.processIdentifier);
     const auto* entry = findApplication(clues, table_);
+    // A dialog may have a class of its own; then it is what its parent is.
+    auto parent = properties_.singleWindow(window, "WM_TRANSIENT_FOR");
+    for (int depth = 0; entry == nullptr && parent && depth < deepestDialog; ++depth) {
+        if (properties_.process(*parent).value_or(0) == application.processIdentifier) {
+            entry = findApplication(cluesOf(*parent, application.processIdentifier), table_);
+        }
+        parent = properties_.singleWindow(*parent, "WM_TRANSIENT_FOR");
+    }
     application.bundleIdentifier = applicationIdentifier(clues, entry);
     application.localizedName = entry != nullptr && !entry->name.isEmpty()
                                     ? std::optional(entry->name)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/RunningApplication.h"
+#include "platform/linux/freedesktop/ApplicationIdentity.h"
 #include "platform/linux/freedesktop/DesktopEntryTable.h"
 #include "platform/linux/x11/WindowProperties.h"
 
@@ -23,6 +24,7 @@ public:
     std::vector<RunningApplication> all() const;
 
 private:
+    ApplicationClues cluesOf(xcb_window_t window, ProcessIdentifier process) const;
     bool isOrdinary(xcb_window_t window) const;
 
     XcbDisplay& display_;

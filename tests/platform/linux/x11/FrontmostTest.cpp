@@ -92,6 +92,24 @@ TEST_F(XWindowsTest, OwnWindowsAnswerWithTheOwnIdentifier) {
     EXPECT_TRUE(eventually([&] { return frontmostIdentifier() == "com.corvane.Quillet"; }));
 }
 
+TEST_F(XWindowsTest, ADialogIsWhatItsParentIs) {
+    const auto notes = installed();
+    XWindow dialog(*applications, {.process = installedProcess,
+                                   .className = "Dialog",
+                                   .type = "_NET_WM_WINDOW_TYPE_DIALOG",
+                                   .parent = notes->id()});
+    ASSERT_TRUE(waitForActive(dialog));
+    EXPECT_EQ(frontmostIdentifier(), "org.example.Notes");
+    // Some other program's dialog over the window, such as one that asks for a password, is not.
+    XWindow foreign(*applications, {.process = unknownProcess,
+                                    .className = "Dialog",
+                                    .type = "_NET_WM_WINDOW_TYPE_DIALOG",
+                                    .parent = notes->id()});
+    foreign.focus();
+    ASSERT_TRUE(waitForActive(foreign));
+    EXPECT_EQ(frontmostIdentifier(), "Dialog");
+}
+
 TEST_F(XWindowsTest, WindowsThatSayNothingHaveNoIdentifier) {
     const XWindow bare(*applications, {});
     ASSERT_TRUE(waitForActive(bare));

@@ -42,6 +42,9 @@ XWindow::XWindow(platform::XcbDisplay& display, const Looks& looks)
     if (!looks.onTaskbar) {
         setNumbers("_NET_WM_STATE", XCB_ATOM_ATOM, {display.atom("_NET_WM_STATE_SKIP_TASKBAR")});
     }
+    if (looks.parent != XCB_WINDOW_NONE) {
+        setNumbers("WM_TRANSIENT_FOR", XCB_ATOM_WINDOW, {looks.parent});
+    }
     // The user's own place and size: the window manager leaves them alone.
     std::vector<std::uint32_t> hints(18);
     hints[0] = 1U | 2U;

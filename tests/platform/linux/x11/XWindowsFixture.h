@@ -26,6 +26,7 @@ public:
         std::string type = "_NET_WM_WINDOW_TYPE_NORMAL";
         std::vector<std::uint32_t> strut = {};
         bool onTaskbar = true;
+        xcb_window_t parent = XCB_WINDOW_NONE;
     };
 
     XWindow(platform::XcbDisplay& display, const Looks& looks);
