@@ -13,22 +13,22 @@ struct Entry {
 };
 
 constexpr std::array catalogue{
-    Entry{TextFormat::Bold, u"Bold", u"bold"},
-    Entry{TextFormat::Italic, u"Italic", u"italic"},
-    Entry{TextFormat::Underline, u"Underline", u"underline"},
-    Entry{TextFormat::Strikethrough, u"Strikethrough", u"strikethrough"},
-    Entry{TextFormat::Monospaced, u"Monospaced", u"chevron.left.forwardslash.chevron.right"},
-    Entry{TextFormat::Heading, u"Heading", u"textformat.size"},
-    Entry{TextFormat::Link, u"Link", u"link"},
-    Entry{TextFormat::BulletList, u"Bullet List", u"list.bullet"},
-    Entry{TextFormat::DashedList, u"Dashed List", u"list.dash"},
-    Entry{TextFormat::NumberedList, u"Numbered List", u"list.number"},
-    Entry{TextFormat::Checklist, u"Checklist", u"checklist"},
-    Entry{TextFormat::IncreaseIndent, u"Increase Indent", u"increase.indent"},
-    Entry{TextFormat::DecreaseIndent, u"Decrease Indent", u"decrease.indent"},
-    Entry{TextFormat::DecreaseTextSize, u"Decrease Text Size", u"textformat.size.smaller"},
-    Entry{TextFormat::IncreaseTextSize, u"Increase Text Size", u"textformat.size.larger"},
-    Entry{TextFormat::RemoveFormatting, u"Remove Formatting", u"textformat"},
+    Entry{TextFormat::bold, u"Bold", u"bold"},
+    Entry{TextFormat::italic, u"Italic", u"italic"},
+    Entry{TextFormat::underline, u"Underline", u"underline"},
+    Entry{TextFormat::strikethrough, u"Strikethrough", u"strikethrough"},
+    Entry{TextFormat::monospaced, u"Monospaced", u"chevron.left.forwardslash.chevron.right"},
+    Entry{TextFormat::heading, u"Heading", u"textformat.size"},
+    Entry{TextFormat::link, u"Link", u"link"},
+    Entry{TextFormat::bulletList, u"Bullet List", u"list.bullet"},
+    Entry{TextFormat::dashedList, u"Dashed List", u"list.dash"},
+    Entry{TextFormat::numberedList, u"Numbered List", u"list.number"},
+    Entry{TextFormat::checklist, u"Checklist", u"checklist"},
+    Entry{TextFormat::increaseIndent, u"Increase Indent", u"increase.indent"},
+    Entry{TextFormat::decreaseIndent, u"Decrease Indent", u"decrease.indent"},
+    Entry{TextFormat::decreaseTextSize, u"Decrease Text Size", u"textformat.size.smaller"},
+    Entry{TextFormat::increaseTextSize, u"Increase Text Size", u"textformat.size.larger"},
+    Entry{TextFormat::removeFormatting, u"Remove Formatting", u"textformat"},
 };
 
 // entry() finds a row by the format's ordinal.

@@ -70,38 +70,38 @@ platform::Point NotesAutomation::colorPanelPosition;
 Shortcut NotesAutomation::formatShortcut(bar::TextFormat format) {
     using bar::TextFormat;
     switch (format) {
-    case TextFormat::Bold:
+    case TextFormat::bold:
         return {11, command};
-    case TextFormat::Italic:
+    case TextFormat::italic:
         return {34, command};
-    case TextFormat::Underline:
+    case TextFormat::underline:
         return {32, command};
-    case TextFormat::Strikethrough:
+    case TextFormat::strikethrough:
         return {7, commandShift};
-    case TextFormat::Monospaced:
+    case TextFormat::monospaced:
         return {46, commandShift};
-    case TextFormat::Heading:
+    case TextFormat::heading:
         return title;
-    case TextFormat::Link:
+    case TextFormat::link:
         return {40, command};
-    case TextFormat::BulletList:
+    case TextFormat::bulletList:
         return {26, commandShift};
-    case TextFormat::DashedList:
+    case TextFormat::dashedList:
         return {28, commandShift};
-    case TextFormat::NumberedList:
+    case TextFormat::numberedList:
         return {25, commandShift};
-    case TextFormat::Checklist:
+    case TextFormat::checklist:
         return {37, commandShift};
     // Positions, not characters: the four below carry ' ; / ] on a US keyboard.
-    case TextFormat::IncreaseIndent:
+    case TextFormat::increaseIndent:
         return {39, command};
-    case TextFormat::DecreaseIndent:
+    case TextFormat::decreaseIndent:
         return {41, command};
-    case TextFormat::DecreaseTextSize:
+    case TextFormat::decreaseTextSize:
         return {44, command};
-    case TextFormat::IncreaseTextSize:
+    case TextFormat::increaseTextSize:
         return {30, command};
-    case TextFormat::RemoveFormatting:
+    case TextFormat::removeFormatting:
         return bodyText;
     }
     core::fatal(u"a format that does not exist");

@@ -133,7 +133,7 @@ TEST_F(AppDelegateTest, BodyTextAndRemoveFormattingPostTheSame) {
     launch();
     select(QStringLiteral("word"));
     delegate->formattingBar()->onHeadingSelected(0);
-    delegate->formattingBar()->onFormatSelected(bar::TextFormat::RemoveFormatting);
+    delegate->formattingBar()->onFormatSelected(bar::TextFormat::removeFormatting);
     delegate->formattingBar()->onHeadingSelected(2);
     const auto& posted = fakes.keyboardEvents.posted;
     ASSERT_EQ(posted.size(), 6U);
@@ -191,7 +191,7 @@ TEST_F(AppDelegateTest, ReportsAndClicksThatOutliveTheDelegateChangeNothing) {
 
     report(false, Rect{});
     EXPECT_TRUE(NotesAutomation::targetApplication);
-    format(bar::TextFormat::Bold);
+    format(bar::TextFormat::bold);
     EXPECT_TRUE(fakes.keyboardEvents.posted.empty());
     report(true, Rect{10, 10, 20, 20});
     EXPECT_FALSE(NotesAutomation::targetApplication);

@@ -20,8 +20,8 @@ TEST(TextFormat, IsDeclaredInTheOrderInWhichItIsListed) {
                              "Bullet List,Dashed List,Numbered List,Checklist,Increase Indent,"
                              "Decrease Indent,Decrease Text Size,Increase Text Size,"
                              "Remove Formatting"));
-    EXPECT_EQ(bar::allTextFormats[11], TextFormat::IncreaseIndent);
-    EXPECT_EQ(bar::allTextFormats[13], TextFormat::DecreaseTextSize);
+    EXPECT_EQ(bar::allTextFormats[11], TextFormat::increaseIndent);
+    EXPECT_EQ(bar::allTextFormats[13], TextFormat::decreaseTextSize);
 }
 
 TEST(TextFormat, IsFoundByItsExactTitleOnly) {
@@ -42,9 +42,9 @@ TEST(TextFormat, EveryButtonHasASymbolOfItsOwn) {
         names.insert(bar::symbolName(format));
     }
     EXPECT_EQ(names.size(), bar::allTextFormats.size());
-    EXPECT_EQ(bar::symbolName(TextFormat::DecreaseTextSize),
+    EXPECT_EQ(bar::symbolName(TextFormat::decreaseTextSize),
               QStringLiteral("textformat.size.smaller"));
-    EXPECT_EQ(bar::symbolName(TextFormat::RemoveFormatting), QStringLiteral("textformat"));
+    EXPECT_EQ(bar::symbolName(TextFormat::removeFormatting), QStringLiteral("textformat"));
 }
 
 TEST(HeadingLevels, AreOfferedFromTitleToBodyEachInItsFont) {

@@ -67,22 +67,22 @@ Shortcut commandShift(char label) {
 
 TEST_F(NotesAutomationTest, EveryFormatAndHeadingLevelHasItsShortcut) {
     const std::vector<std::pair<TextFormat, Shortcut>> formats{
-        {TextFormat::Bold, command('B')},
-        {TextFormat::Italic, command('I')},
-        {TextFormat::Underline, command('U')},
-        {TextFormat::Strikethrough, commandShift('X')},
-        {TextFormat::Monospaced, commandShift('M')},
-        {TextFormat::Heading, commandShift('T')},
-        {TextFormat::Link, command('K')},
-        {TextFormat::BulletList, commandShift('7')},
-        {TextFormat::DashedList, commandShift('8')},
-        {TextFormat::NumberedList, commandShift('9')},
-        {TextFormat::Checklist, commandShift('L')},
-        {TextFormat::IncreaseIndent, command('\'')},
-        {TextFormat::DecreaseIndent, command(';')},
-        {TextFormat::DecreaseTextSize, command('/')},
-        {TextFormat::IncreaseTextSize, command(']')},
-        {TextFormat::RemoveFormatting, commandShift('B')},
+        {TextFormat::bold, command('B')},
+        {TextFormat::italic, command('I')},
+        {TextFormat::underline, command('U')},
+        {TextFormat::strikethrough, commandShift('X')},
+        {TextFormat::monospaced, commandShift('M')},
+        {TextFormat::heading, commandShift('T')},
+        {TextFormat::link, command('K')},
+        {TextFormat::bulletList, commandShift('7')},
+        {TextFormat::dashedList, commandShift('8')},
+        {TextFormat::numberedList, commandShift('9')},
+        {TextFormat::checklist, commandShift('L')},
+        {TextFormat::increaseIndent, command('\'')},
+        {TextFormat::decreaseIndent, command(';')},
+        {TextFormat::decreaseTextSize, command('/')},
+        {TextFormat::increaseTextSize, command(']')},
+        {TextFormat::removeFormatting, commandShift('B')},
     };
     ASSERT_EQ(formats.size(), bar::allTextFormats.size());
     for (const auto& [format, shortcut] : formats) {

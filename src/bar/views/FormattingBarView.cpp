@@ -22,19 +22,19 @@ ui::Element FormattingBarView::body() const {
     const ui::RoundedRectangle shape{10};
 
     return ui::hstack({.spacing = 2},                                                          //
-                      icon(Bold), icon(Italic), icon(Underline), icon(Strikethrough),          //
+                      icon(bold), icon(italic), icon(underline), icon(strikethrough),          //
                       divider(),                                                               //
                       ColorPickerButton{viewModel},                                            //
                       divider(),                                                               //
-                      HeadingButton{viewModel}, icon(Monospaced), icon(Link),                  //
+                      HeadingButton{viewModel}, icon(monospaced), icon(link),                  //
                       divider(),                                                               //
-                      icon(BulletList), icon(DashedList), icon(NumberedList), icon(Checklist), //
+                      icon(bulletList), icon(dashedList), icon(numberedList), icon(checklist), //
                       divider(),                                                               //
-                      icon(DecreaseIndent), icon(IncreaseIndent),                              //
+                      icon(decreaseIndent), icon(increaseIndent),                              //
                       divider(),                                                               //
-                      icon(DecreaseTextSize), icon(IncreaseTextSize),                          //
+                      icon(decreaseTextSize), icon(increaseTextSize),                          //
                       divider(),                                                               //
-                      icon(RemoveFormatting)) |
+                      icon(removeFormatting)) |
            ui::padding({.horizontal = 10, .vertical = 6}) |
            ui::background(shape, VisualEffectBackground{VisualEffectMaterial::HudWindow,
                                                         VisualEffectBlendingMode::BehindWindow}) |
