@@ -5,6 +5,7 @@ import unittest
 
 import wait
 from case import DesktopCase
+from entries import Entries
 from gnote import Gnote
 from keys import RIGHT_BUTTON
 from tray import Tray
@@ -34,7 +35,8 @@ class MenuTest(DesktopCase):
     def test_the_icon_is_a_picture_with_the_programs_name(self):
         item = self.start_program().wait_for_icon(self.tray)
         self.assertTrue(item.icon_sizes())
-        self.assertEqual(item.property("Title"), "Corvane Quillet")
+        _, _, title, _ = item.property("ToolTip")
+        self.assertEqual(title, "Corvane Quillet")
         self.assertEqual(item.property("Category"), "ApplicationStatus")
 
     def test_quit_ends_it_with_the_bar(self):
@@ -85,8 +87,10 @@ class LateTrayTest(DesktopCase):
     with_tray = False
 
     def test_the_icon_appears_once_with_a_tray_that_comes_later_and_with_the_next_one(self):
+        entries = Entries(self.desktop, "plain")
+        self.addCleanup(self.desktop.session.end, entries.process)
         program = self.start_program()
-        program.wait_until_started()
+        program.wait_until_polling()
         for _ in range(2):
             tray = Tray(self.desktop.session)
             self.addCleanup(tray.close)

@@ -5,11 +5,11 @@ import os
 import unittest
 
 import bar
-import program as program_module
 import wait
 from case import DesktopCase, EXECUTABLE
+from entries import Entries
 from gnote import Gnote
-from program import Program
+from program import Program, settings_path, store_settings
 from windows import Rect
 
 AT_ONCE = {"appearanceDelay": 0}
@@ -49,18 +49,26 @@ class NoAccessibilityTest(DesktopCase):
 
 
 class SettingsFileTest(DesktopCase):
+    """The settings are read when the first application is looked at."""
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        Entries(cls.desktop, "plain")
 
     def stored(self):
-        with open(program_module.settings_path(self.desktop.session), encoding="utf-8") as file:
-            return json.load(file)
+        """What the file holds, or None while there is no file."""
+        try:
+            with open(settings_path(self.desktop.session), encoding="utf-8") as file:
+                return json.load(file)
+        except FileNotFoundError:
+            return None
 
     def store(self, content):
-        program_module.store_settings(self.desktop.session, content)
+        store_settings(self.desktop.session, content)
 
     def test_a_first_start_stores_the_defaults(self):
-        self.addCleanup(self.start_program().end)
-        wait.until(lambda: os.path.exists(program_module.settings_path(self.desktop.session)), 5.0,
-                   "the settings are stored")
+        self.start_program()
         wait.until(lambda: self.stored() == DEFAULTS, 5.0, "all six are there")
 
     def test_a_damaged_file_is_set_aside_and_the_defaults_apply(self):
@@ -70,7 +78,7 @@ class SettingsFileTest(DesktopCase):
         wait.until(lambda: any("settings" in line for line in program.output()), 5.0,
                    "the program says that the settings are damaged")
         wait.until(lambda: self.stored() == DEFAULTS, 5.0, "the defaults are stored")
-        folder = os.path.dirname(program_module.settings_path(self.desktop.session))
+        folder = os.path.dirname(settings_path(self.desktop.session))
         others = [name for name in os.listdir(folder) if name != "settings.json"]
         self.assertEqual(len(others), 1, others)
         with open(os.path.join(folder, others[0]), encoding="utf-8") as file:

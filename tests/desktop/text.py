@@ -49,11 +49,11 @@ class AccessibilityBus:
         return wait.until(found, limit, f"a focused text widget with {words!r}")
 
     def extents_of(self, pid, label, within, limit=5.0):
-        """Where the widget of a process that bears a name is on the screen, in pixels; its middle
-        lies in the rectangle `within`."""
+        """Where the widget of a process that bears a name is on the screen, in pixels; at least a
+        part of it lies in the rectangle `within`."""
         def is_wanted(*node):
             return (self._name(*node) == label and self._has_state(*node, SHOWING)
-                    and within.contains(*self._extents(*node).centre))
+                    and within.touches(self._extents(*node)))
         return self._extents(*self._wait_for(pid, is_wanted, limit, f"a widget {label!r}"))
 
     def _extents(self, name, path):

@@ -29,6 +29,10 @@ class Rect:
     def contains(self, x, y):
         return self.x <= x < self.right and self.y <= y < self.bottom
 
+    def touches(self, other):
+        return (self.x < other.right and other.x < self.right
+                and self.y < other.bottom and other.y < self.bottom)
+
     def __str__(self):
         return f"{self.width}x{self.height}+{self.x}+{self.y}"
 
