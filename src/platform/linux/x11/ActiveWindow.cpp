@@ -39,8 +39,7 @@ std::optional<xcb_window_t> ActiveWindow::current() {
     if (!hasWindowManager()) {
         const auto focused = focusedTopLevel().value_or(XCB_WINDOW_NONE);
         if (focused != active_) {
-            active_ = focused;
-            remember(active_);
+            setActive(focused);
         }
     }
     return active_ == XCB_WINDOW_NONE ? std::nullopt : std::optional(active_);
@@ -91,10 +90,8 @@ void ActiveWindow::readActiveWindow() {
     const auto active = properties_.singleWindow(connection_.root(), "_NET_ACTIVE_WINDOW")
                             .value_or(XCB_WINDOW_NONE);
     unread_ = unread_ || !connection_.isAnswering();
-    if (active != active_) {
-        active_ = active;
-        remember(active_);
-    }
+    // Also when the number is the same: it may have been given to a new window meanwhile.
+    setActive(active);
 }
 
 void ActiveWindow::readWindowManager() {
@@ -114,7 +111,9 @@ void ActiveWindow::watch(xcb_window_t window, std::uint32_t events) {
     xcb_change_window_attributes(connection_.get(), window, XCB_CW_EVENT_MASK, &events);
 }
 
-void ActiveWindow::remember(xcb_window_t window) {
+void ActiveWindow::setActive(xcb_window_t window) {
+    active_ = window;
+    ++activations_;
     if (window == XCB_WINDOW_NONE) {
         return;
     }

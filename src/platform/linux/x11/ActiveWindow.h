@@ -4,6 +4,7 @@
 #include "platform/linux/x11/WindowProperties.h"
 #include "platform/linux/x11/XcbConnection.h"
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <optional>
@@ -20,6 +21,10 @@ public:
     /// The top-level window with the keyboard; empty when there is none.
     std::optional<xcb_window_t> current();
 
+    /// Grows whenever a window becomes the active one. X gives the number of a window that is gone
+    /// to a new one, so the number alone does not tell that it is still the same window.
+    std::uint64_t activations() const { return activations_; }
+
     /// The window of a process that had the keyboard last and still exists.
     std::optional<xcb_window_t> lastOf(ProcessIdentifier process);
 
@@ -35,7 +40,7 @@ private:
     void readActiveWindow();
     void readWindowManager();
     void watch(xcb_window_t window, std::uint32_t events);
-    void remember(xcb_window_t window);
+    void setActive(xcb_window_t window);
     void forget(xcb_window_t window);
     std::optional<xcb_window_t> focusedTopLevel();
 
@@ -44,6 +49,7 @@ private:
     core::Observers<xcb_window_t, xcb_atom_t> propertyHandlers_;
     std::map<ProcessIdentifier, xcb_window_t> lastWindows_;
     xcb_window_t active_ = XCB_WINDOW_NONE;
+    std::uint64_t activations_ = 0;
     /// The window by which a window manager shows that it lives.
     xcb_window_t managerSign_ = XCB_WINDOW_NONE;
     bool managed_ = false;

@@ -25,10 +25,10 @@ EwmhWorkspace::EwmhWorkspace(EwmhWindows& windows, DesktopEntryIndex& index, QSt
     propertyChanges_ =
         windows_.activeWindow().addPropertyHandler([this](xcb_window_t, xcb_atom_t property) {
             if (concernsApplication(windows_.connection(), property)) {
-                identifiedWindow_ = XCB_WINDOW_NONE;
+                identifiedActivation_.reset();
             }
         });
-    indexChanges_ = index_.addChangeHandler([this] { identifiedWindow_ = XCB_WINDOW_NONE; });
+    indexChanges_ = index_.addChangeHandler([this] { identifiedActivation_.reset(); });
 }
 
 std::optional<RunningApplication> EwmhWorkspace::frontmostApplication() {
@@ -36,7 +36,7 @@ std::optional<RunningApplication> EwmhWorkspace::frontmostApplication() {
     if (!window) {
         return std::nullopt;
     }
-    if (*window != identifiedWindow_) {
+    if (identifiedActivation_ != windows_.activeWindow().activations()) {
         const auto table = index_.current();
         if (!table) {
             // Known in a moment: until then nobody may take a window class for an identifier.
@@ -44,7 +44,7 @@ std::optional<RunningApplication> EwmhWorkspace::frontmostApplication() {
         }
         identified_ = WindowApplications(windows_.connection(), *table, ownIdentifier_)
                           .applicationOf(*window);
-        identifiedWindow_ = *window;
+        identifiedActivation_ = windows_.activeWindow().activations();
     }
     return identified_;
 }

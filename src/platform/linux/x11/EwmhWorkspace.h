@@ -4,7 +4,7 @@
 #include "platform/linux/freedesktop/DesktopEntryIndex.h"
 #include "platform/linux/x11/EwmhWindows.h"
 
-#include <map>
+#include <cstdint>
 
 namespace platform {
 
@@ -26,9 +26,10 @@ private:
     EwmhWindows& windows_;
     DesktopEntryIndex& index_;
     const QString ownIdentifier_;
-    /// The answer for the window that was active when it was last asked for.
-    xcb_window_t identifiedWindow_ = XCB_WINDOW_NONE;
+    /// The application of the active window, and the activation for which it was found; no
+    /// activation when it must be found again.
     std::optional<RunningApplication> identified_;
+    std::optional<std::uint64_t> identifiedActivation_;
     core::Registration propertyChanges_;
     core::Registration indexChanges_;
 };

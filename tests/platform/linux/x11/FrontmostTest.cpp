@@ -37,6 +37,16 @@ TEST_F(XWindowsTest, TheActiveWindowsApplicationIsFrontmost) {
     EXPECT_TRUE(waitForFrontmost(installedProcess));
 }
 
+TEST_F(XWindowsTest, AWindowThatInheritsTheNumberOfOneThatIsGoneIsAnother) {
+    auto notes = installed();
+    ASSERT_TRUE(waitForFrontmost(installedProcess));
+    const auto number = notes->id();
+    notes.reset();
+    const XWindow terminal(*applications,
+                           {.process = unknownProcess, .className = "Terminal", .number = number});
+    EXPECT_TRUE(waitForFrontmost(unknownProcess));
+}
+
 TEST_F(XWindowsTest, AskingWhileNothingChangedAsksTheServerNothing) {
     const auto notes = installed();
     ASSERT_TRUE(waitForFrontmost(installedProcess));

@@ -22,7 +22,7 @@ bool eventually(const std::function<bool()>& condition) {
 
 XWindow::XWindow(platform::XcbDisplay& display, const Looks& looks)
     : display_(display)
-    , window_(xcb_generate_id(display.get())) {
+    , window_(looks.number ? *looks.number : xcb_generate_id(display.get())) {
     const auto& frame = looks.frame;
     xcb_create_window(display.get(), XCB_COPY_FROM_PARENT, window_, display.root(),
                       static_cast<std::int16_t>(frame.x), static_cast<std::int16_t>(frame.y),

@@ -27,6 +27,8 @@ public:
         std::vector<std::uint32_t> strut = {};
         bool onTaskbar = true;
         xcb_window_t parent = XCB_WINDOW_NONE;
+        /// The number of a window that is gone, to be used again.
+        std::optional<xcb_window_t> number = {};
     };
 
     XWindow(platform::XcbDisplay& display, const Looks& looks);
