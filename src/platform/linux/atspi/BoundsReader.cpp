@@ -1,5 +1,7 @@
 #include "platform/linux/atspi/BoundsReader.h"
 
+#include "platform/linux/atspi/WireTypes.h"
+
 #include <algorithm>
 
 namespace platform {
@@ -38,12 +40,9 @@ std::vector<TextSpan> piecesOf(const std::vector<TextSpan>& spans) {
     return some;
 }
 
-/// What an application answers for text that is nowhere: 0, 0, 0, 0 or -1, -1, 0, 0; and numbers
-/// with which no screen could be reached.
-bool isSomewhere(const PixelRect& rect) {
-    constexpr int farthest = 1 << 20;
-    return rect.width >= 0 && rect.height > 0 && rect.width < farthest && rect.height < farthest &&
-           std::abs(rect.x) < farthest && std::abs(rect.y) < farthest;
+/// Text that is nowhere is answered with 0, 0, 0, 0 or -1, -1, 0, 0.
+bool isSomewhere(const Extents& extents) {
+    return extents.isPlausible() && extents.height > 0;
 }
 
 PixelRect united(const PixelRect& a, const PixelRect& b) {
@@ -112,8 +111,9 @@ std::optional<PixelRect> BoundsReader::unitedExtents(const std::vector<TextSpan>
         if (!x || !y || !width || !height) {
             continue;
         }
-        const PixelRect rect{*x, *y, *width, *height};
-        if (isSomewhere(rect)) {
+        const Extents extents{*x, *y, *width, *height};
+        if (isSomewhere(extents)) {
+            const PixelRect rect{extents.x, extents.y, extents.width, extents.height};
             whole = whole ? united(*whole, rect) : rect;
         }
     }

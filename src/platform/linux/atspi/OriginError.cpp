@@ -14,7 +14,8 @@ PixelPoint OriginError::of(const ObjectReference& object, const PixelRect& clien
         return {};
     }
     const auto pane = inquiry.ask<Extents>(requests::extents(*rootPane_));
-    if (!pane || pane->width != clientArea.width || pane->height > clientArea.height) {
+    if (!pane || !pane->isPlausible() || pane->width != clientArea.width ||
+        pane->height > clientArea.height) {
         return {};
     }
     return {clientArea.x - pane->x, clientArea.y + clientArea.height - (pane->y + pane->height)};

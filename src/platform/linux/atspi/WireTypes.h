@@ -48,6 +48,14 @@ struct Extents {
     int y = 0;
     int width = 0;
     int height = 0;
+
+    /// Whether it could lie on a screen, whatever else was made up.
+    bool isPlausible() const {
+        constexpr int farthest = 1 << 20;
+        const auto isNear = [](int value) { return value > -farthest && value < farthest; };
+        return isNear(x) && isNear(y) && width >= 0 && isNear(width) && height >= 0 &&
+               isNear(height);
+    }
 };
 
 /// The rule of a search among the descendants of an object: those that have one state.
