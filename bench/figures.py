@@ -12,8 +12,6 @@ from gi.repository import Gio, GLib
 import wait
 from tray import Tray
 
-_PRIVATE = ("Private_Clean", "Private_Dirty")
-
 
 def middle(times):
     return f"{statistics.median(times):.0f}"
@@ -90,7 +88,9 @@ class Running:
         return total
 
     def private(self):
-        return self.memory(*_PRIVATE)
+        """What no other process could share. What the kernel calls private would be less honest: a
+        library's page is that as long as nobody else happens to have it open."""
+        return self.memory("Anonymous")
 
     def processor_seconds(self):
         """Of all its threads."""
