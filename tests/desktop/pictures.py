@@ -26,13 +26,31 @@ class Picture:
 
     def bounds_of(self, colour, tolerance=2):
         """The smallest rectangle around the pixels of a colour, or None."""
+        def is_wanted(offset):
+            return all(abs(self._pixels[offset + 2 - channel] - colour[channel]) <= tolerance
+                       for channel in range(3))
+        return self._bounds(is_wanted)
+
+    def part(self, area):
+        """A part of the picture; `area` must lie inside."""
+        first = area.x - self.area.x
+        lines = [4 * (row * self.area.width + first)
+                 for row in range(area.y - self.area.y, area.bottom - self.area.y)]
+        return Picture(area, b"".join(self._pixels[start:start + 4 * area.width]
+                                      for start in lines))
+
+    def changes_since(self, before):
+        """The smallest rectangle around the pixels that differ from an earlier picture of the same
+        area, or None."""
+        return self._bounds(lambda offset: self._pixels[offset:offset + 3]
+                            != before._pixels[offset:offset + 3])
+
+    def _bounds(self, is_wanted):
         rows, left, right = [], self.area.width, -1
         for row in range(self.area.height):
             start = 4 * row * self.area.width
-            line = self._pixels[start:start + 4 * self.area.width]
             columns = [column for column in range(self.area.width)
-                       if all(abs(line[4 * column + 2 - channel] - colour[channel]) <= tolerance
-                              for channel in range(3))]
+                       if is_wanted(start + 4 * column)]
             if columns:
                 rows.append(row)
                 left, right = min(left, columns[0]), max(right, columns[-1])

@@ -111,7 +111,7 @@ class RoadTest(DesktopCase):
         self.assert_at_work_in(self.note)
 
     def test_every_button_is_where_its_name_is_told(self):
-        for words, wide in (("quick", False), ("other", True)):
+        for words, wide in (("quick", False), ("select", True)):
             self.desktop.select(self.text, words)
             frame = self.program.wait_for_bar_at(
                 self.expected(self.text.selection(), first=not wide))
