@@ -86,7 +86,7 @@ TEST_F(BoundsTest, OfALongTextPiecesAreAskedFor) {
 }
 
 TEST_F(BoundsTest, APaneThatForgetsTheMenuBarIsPutRight) {
-    windows.clientArea = PixelRect{0, 19, 1280, 781};
+    windows.clientArea = PixelRect{30, 19, 1280, 781};
     FakeObject pane;
     pane.role = static_cast<unsigned>(platform::Role::RootPane);
     application.set(QStringLiteral("/pane"), pane);
@@ -94,12 +94,12 @@ TEST_F(BoundsTest, APaneThatForgetsTheMenuBarIsPutRight) {
     object.parent = QStringLiteral("/pane");
     object.ranges.insert({0, 4}, {282, 217, 303, 19});
 
-    pane.extents = {0, 19, 1280, 756};
+    pane.extents = {20, 19, 1280, 756};
     application.set(QStringLiteral("/pane"), pane);
-    EXPECT_EQ(boundsOf(object), (Rect{282, 242, 303, 19}));
+    EXPECT_EQ(boundsOf(object), (Rect{292, 242, 303, 19}));
 
     // It may know better at any time.
-    pane.extents = {0, 44, 1280, 756};
+    pane.extents = {30, 44, 1280, 756};
     application.set(QStringLiteral("/pane"), pane);
     EXPECT_EQ(look().bounds, (Rect{282, 217, 303, 19}));
 
