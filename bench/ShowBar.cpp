@@ -73,7 +73,7 @@ int main(int argc, char** argv) {
         return EXIT_FAILURE;
     }
     const QApplication application(argc, argv);
-    const auto system = platform::makePlatform();
+    const auto system = platform::makePlatform(platform::makeProgramInstance());
     const platform::CurrentPlatform current(*system);
     Witness witness;
     bar::FormattingBarController controller;

@@ -37,6 +37,8 @@ void AppDelegate::applicationDidFinishLaunching() {
     showFeedbackSheet_ = core::NotificationCenter::defaultCenter().addObserver(
         QStringLiteral("showFeedbackSheet"), [this] { openFeedback(); });
     setupMonitoring();
+    instanceRequests_ = platform_.programInstance->setRequestHandler(
+        [this](const platform::InstanceRequest& request) { obey(request); });
     platform_.runLoop->dispatchAfter(updaterDelay, [self = QPointer(this)] {
         if (self) {
             self->updaterController_.startUpdater();
@@ -56,10 +58,10 @@ void AppDelegate::applicationWillTerminate() {
 void AppDelegate::setupMenuBar() {
     connect(&statusMenu_.checkAccessibility(), &QAction::triggered, this,
             &AppDelegate::checkAccessibility);
-    connect(&statusMenu_.settings(), &QAction::triggered, this, &AppDelegate::openSettings);
+    connect(&statusMenu_.settings(), &QAction::triggered, this, [this] { openSettings(); });
     connect(&statusMenu_.checkForUpdates(), &QAction::triggered, this,
             &AppDelegate::checkForUpdates);
-    connect(&statusMenu_.feedback(), &QAction::triggered, this, &AppDelegate::openFeedback);
+    connect(&statusMenu_.feedback(), &QAction::triggered, this, [this] { openFeedback(); });
     connect(&statusMenu_.quit(), &QAction::triggered, QCoreApplication::instance(),
             &QCoreApplication::quit);
     statusItem_ =
@@ -127,12 +129,28 @@ void AppDelegate::checkAccessibility() {
     }
 }
 
-void AppDelegate::openSettings() {}
+void AppDelegate::openSettings(const platform::ActivationToken&) {}
 
 void AppDelegate::checkForUpdates() {
     updaterController_.checkForUpdates();
 }
 
-void AppDelegate::openFeedback() {}
+void AppDelegate::openFeedback(const platform::ActivationToken&) {}
+
+void AppDelegate::obey(const platform::InstanceRequest& request) {
+    using Kind = platform::InstanceRequest::Kind;
+    switch (request.kind) {
+    case Kind::Activate:
+    case Kind::Settings:
+        openSettings(request.token);
+        break;
+    case Kind::Feedback:
+        openFeedback(request.token);
+        break;
+    case Kind::Quit:
+        QCoreApplication::quit();
+        break;
+    }
+}
 
 } // namespace app

@@ -33,9 +33,9 @@ public:
     void applicationWillTerminate();
 
     void checkAccessibility();
-    void openSettings();
+    void openSettings(const platform::ActivationToken& token = {});
     void checkForUpdates();
-    void openFeedback();
+    void openFeedback(const platform::ActivationToken& token = {});
 
     /// Null before the start.
     monitor::NotesMonitor* notesMonitor() const { return notesMonitor_.get(); }
@@ -45,6 +45,7 @@ private:
     void setupMenuBar();
     void setupMonitoring();
     void connectSelectionToFormat();
+    void obey(const platform::InstanceRequest& request);
 
     platform::Platform& platform_;
     settings::AppSettingsManager& settings_;
@@ -54,6 +55,7 @@ private:
     MenuTracking menuTracking_;
     core::Registration statusItem_;
     core::Registration showFeedbackSheet_;
+    core::Registration instanceRequests_;
     std::unique_ptr<bar::FormattingBarController> formattingBar_;
     std::unique_ptr<monitor::NotesMonitor> notesMonitor_;
 };

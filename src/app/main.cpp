@@ -6,8 +6,20 @@
 #include <QApplication>
 
 #include <cstdlib>
+#include <utility>
+
+using platform::ProgramInstance;
 
 int main(int argc, char** argv) {
+    auto instance = platform::makeProgramInstance();
+    switch (instance->claim()) {
+    case ProgramInstance::Claim::First:
+        break;
+    case ProgramInstance::Claim::HandedOver:
+        return EXIT_SUCCESS;
+    case ProgramInstance::Claim::Unanswered:
+        return EXIT_FAILURE;
+    }
     if (const auto obstacle = platform::prepareProcess()) {
         core::log(*obstacle);
         return EXIT_FAILURE;
@@ -17,7 +29,7 @@ int main(int argc, char** argv) {
     QApplication::setDesktopFileName(QStringLiteral("com.corvane.Quillet"));
     const QApplication application(argc, argv);
 
-    const std::unique_ptr<platform::Platform> system = platform::makePlatform();
+    const std::unique_ptr<platform::Platform> system = platform::makePlatform(std::move(instance));
     const platform::CurrentPlatform current(*system);
     return app::CorvaneQuilletApp(
                std::make_unique<app::AppDelegate>(*system, settings::AppSettingsManager::shared()))

@@ -2,11 +2,14 @@
 
 #include "platform/Accessibility.h"
 #include "platform/Alerts.h"
+#include "platform/ApplicationBundles.h"
+#include "platform/ApplicationIcons.h"
 #include "platform/ColorPanel.h"
 #include "platform/GlobalKeyMonitor.h"
 #include "platform/KeyboardEvents.h"
 #include "platform/LoginItem.h"
 #include "platform/PointerMonitor.h"
+#include "platform/ProgramInstance.h"
 #include "platform/RunLoop.h"
 #include "platform/Screens.h"
 #include "platform/StatusItem.h"
@@ -26,6 +29,7 @@ struct Platform {
     /// What the members below share and must outlive them: connections, caches.
     std::shared_ptr<void> foundation;
 
+    std::unique_ptr<ProgramInstance> programInstance;
     std::unique_ptr<RunLoop> runLoop;
     std::unique_ptr<SystemInfo> systemInfo;
     std::unique_ptr<UserDefaults> userDefaults;
@@ -34,6 +38,8 @@ struct Platform {
     std::unique_ptr<Symbols> symbols;
     std::unique_ptr<WindowServer> windowServer;
     std::unique_ptr<Workspace> workspace;
+    std::unique_ptr<ApplicationBundles> applicationBundles;
+    std::unique_ptr<ApplicationIcons> applicationIcons;
     std::unique_ptr<Accessibility> accessibility;
     std::unique_ptr<KeyboardEvents> keyboardEvents;
     std::unique_ptr<GlobalKeyMonitor> globalKeyMonitor;
@@ -48,8 +54,9 @@ struct Platform {
 /// program cannot run here; empty when it can.
 [[nodiscard]] std::optional<QString> prepareProcess();
 
-/// Puts the system's own implementations together. Needs the application object; main thread.
-std::unique_ptr<Platform> makePlatform();
+/// Puts the system's own implementations together. Needs the application object, and the instance
+/// that claimed to be the program; main thread.
+std::unique_ptr<Platform> makePlatform(std::unique_ptr<ProgramInstance> programInstance);
 
 /// The platform that the process runs on. A programming error when none is installed.
 Platform& current();

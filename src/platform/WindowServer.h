@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/ActivationToken.h"
 #include "platform/Geometry.h"
 
 #include <cstdint>
@@ -27,6 +28,10 @@ public:
     /// Shows a window in front of the others without making it the key window.
     virtual void orderFront(QWidget& window) = 0;
     virtual void orderOut(QWidget& window) = 0;
+
+    /// Shows an ordinary window in front of all others, whatever application is active, and makes
+    /// it the key window. `token` is what the desktop gave for the user's deed that asked for it.
+    virtual void bringToFront(QWidget& window, const ActivationToken& token) = 0;
 
     /// Whether what a window leaves transparent shows what lies below it.
     virtual bool hasTranslucency() = 0;

@@ -155,6 +155,44 @@ void FakeWindowServer::orderOut(QWidget& window) {
     window.hide();
 }
 
+void FakeWindowServer::bringToFront(QWidget& window, const platform::ActivationToken& token) {
+    record.emplace_back("bring to front");
+    tokens.push_back(token);
+    window.show();
+}
+
+core::Registration FakeProgramInstance::setRequestHandler(Handler h) {
+    handler = std::move(h);
+    return core::Registration([this] { handler = nullptr; });
+}
+
+void FakeApplicationBundles::add(const QString& folder, const QString& entry,
+                                 platform::ApplicationBundle bundle) {
+    if (!order.contains(folder)) {
+        order.append(folder);
+    }
+    listing[folder].append(entry);
+    byPath[folder + QLatin1Char('/') + entry] = std::move(bundle);
+}
+
+std::optional<platform::ApplicationBundle> FakeApplicationBundles::bundle(const QString& path) {
+    const auto found = byPath.find(path);
+    return found == byPath.end() ? std::nullopt : std::optional(found->second);
+}
+
+QImage FakeApplicationIcons::picture(const platform::IconReference& icon, int side,
+                                     double devicePixelRatio) {
+    asked.push_back(icon.nameOrPath);
+    if (!found) {
+        return {};
+    }
+    const int pixels = static_cast<int>(side * devicePixelRatio);
+    QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::red);
+    image.setDevicePixelRatio(devicePixelRatio);
+    return image;
+}
+
 QImage FakeSymbols::mask(const QString&, const platform::SymbolStyle& style,
                          double devicePixelRatio) {
     const int side = static_cast<int>(style.pointSize * devicePixelRatio);
@@ -165,7 +203,8 @@ QImage FakeSymbols::mask(const QString&, const platform::SymbolStyle& style,
 }
 
 FakePlatform::FakePlatform()
-    : runLoop(put<VirtualRunLoop>(platform.runLoop))
+    : programInstance(put<FakeProgramInstance>(platform.programInstance))
+    , runLoop(put<VirtualRunLoop>(platform.runLoop))
     , systemInfo(put<FakeSystemInfo>(platform.systemInfo))
     , userDefaults(put<FakeUserDefaults>(platform.userDefaults))
     , loginItem(put<FakeLoginItem>(platform.loginItem))
@@ -173,6 +212,8 @@ FakePlatform::FakePlatform()
     , symbols(put<FakeSymbols>(platform.symbols))
     , windowServer(put<FakeWindowServer>(platform.windowServer, record))
     , workspace(put<FakeWorkspace>(platform.workspace, record))
+    , applicationBundles(put<FakeApplicationBundles>(platform.applicationBundles))
+    , applicationIcons(put<FakeApplicationIcons>(platform.applicationIcons))
     , accessibility(put<FakeAccessibility>(platform.accessibility))
     , keyboardEvents(put<FakeKeyboardEvents>(platform.keyboardEvents, record, runLoop))
     , globalKeyMonitor(put<FakeGlobalKeyMonitor>(platform.globalKeyMonitor))

@@ -34,6 +34,38 @@ struct FakeAccessibility final : platform::Accessibility {
                                                  const TextRange& range) override;
 };
 
+struct FakeProgramInstance final : platform::ProgramInstance {
+    Claim answer = Claim::First;
+    Handler handler;
+
+    Claim claim() override { return answer; }
+    core::Registration setRequestHandler(Handler h) override;
+};
+
+/// Folders of bundles as a test writes them down.
+struct FakeApplicationBundles final : platform::ApplicationBundles {
+    QStringList order;
+    std::map<QString, QStringList> listing;
+    std::map<QString, platform::ApplicationBundle> byPath;
+
+    void add(const QString& folder, const QString& entry, platform::ApplicationBundle bundle);
+    QStringList folders() override { return order; }
+    QStringList entries(const QString& folder) override { return listing[folder]; }
+    QString suffix() override { return QStringLiteral(".app"); }
+    std::optional<platform::ApplicationBundle> bundle(const QString& path) override;
+    std::optional<platform::IconReference> iconForFile(const QString& path) override {
+        return platform::IconReference{path};
+    }
+};
+
+struct FakeApplicationIcons final : platform::ApplicationIcons {
+    /// What picture() was asked for, in order.
+    std::vector<QString> asked;
+    bool found = true;
+
+    QImage picture(const platform::IconReference& icon, int side, double devicePixelRatio) override;
+};
+
 struct FakeWorkspace final : platform::Workspace {
     explicit FakeWorkspace(Record& r)
         : record(r) {}
@@ -161,6 +193,8 @@ struct FakeWindowServer final : platform::WindowServer {
     Record& record;
     std::map<const QWidget*, platform::Rect> frames;
     bool translucency = true;
+    /// One for each call of bringToFront().
+    std::vector<platform::ActivationToken> tokens;
 
     void makeFloating(QWidget& window) override;
     void setFrame(QWidget& window, const platform::Rect& frame) override;
@@ -168,6 +202,7 @@ struct FakeWindowServer final : platform::WindowServer {
     platform::Rect frameOnScreen(const QWidget& part) override;
     void orderFront(QWidget& window) override;
     void orderOut(QWidget& window) override;
+    void bringToFront(QWidget& window, const platform::ActivationToken& token) override;
     bool hasTranslucency() override { return translucency; }
     void becomeAccessory() override { record.emplace_back("become accessory"); }
 };
@@ -198,6 +233,7 @@ public:
 
     Record record;
     platform::Platform platform;
+    FakeProgramInstance& programInstance;
     VirtualRunLoop& runLoop;
     FakeSystemInfo& systemInfo;
     FakeUserDefaults& userDefaults;
@@ -206,6 +242,8 @@ public:
     FakeSymbols& symbols;
     FakeWindowServer& windowServer;
     FakeWorkspace& workspace;
+    FakeApplicationBundles& applicationBundles;
+    FakeApplicationIcons& applicationIcons;
     FakeAccessibility& accessibility;
     FakeKeyboardEvents& keyboardEvents;
     FakeGlobalKeyMonitor& globalKeyMonitor;

@@ -1,40 +1,15 @@
 #include "settings/AppDiscovery.h"
 
+#include "fakes/FakePlatform.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <map>
 
 using platform::ActivationPolicy;
 using settings::AppInfo;
 using testing::ElementsAre;
 
 namespace {
-
-/// Folders of bundles as a test writes them down.
-struct TableOfBundles final : platform::ApplicationBundles {
-    QStringList order;
-    std::map<QString, QStringList> listing;
-    std::map<QString, platform::ApplicationBundle> byPath;
-
-    void add(const QString& folder, const QString& entry, platform::ApplicationBundle bundle) {
-        if (!order.contains(folder)) {
-            order.append(folder);
-        }
-        listing[folder].append(entry);
-        byPath[folder + QLatin1Char('/') + entry] = std::move(bundle);
-    }
-    QStringList folders() override { return order; }
-    QStringList entries(const QString& folder) override { return listing[folder]; }
-    QString suffix() override { return QStringLiteral(".app"); }
-    std::optional<platform::ApplicationBundle> bundle(const QString& path) override {
-        const auto found = byPath.find(path);
-        return found == byPath.end() ? std::nullopt : std::optional(found->second);
-    }
-    std::optional<platform::IconReference> iconForFile(const QString& path) override {
-        return platform::IconReference{path};
-    }
-};
 
 std::vector<std::string> names(const std::vector<AppInfo>& apps) {
     std::vector<std::string> result;
@@ -75,7 +50,7 @@ TEST(AppDiscovery, TakesOrdinaryRunningApplicationsAndKeepsTwoProcessesOfOne) {
 TEST(AppDiscovery, TakesEachInstalledApplicationOnceFromTheFirstPlaceThatHasIt) {
     const QString one = QStringLiteral("/one");
     const QString two = QStringLiteral("/two");
-    TableOfBundles bundles;
+    fakes::FakeApplicationBundles bundles;
     const auto named = [](const QString& identifier, std::optional<QString> name,
                           std::optional<QString> display = std::nullopt) {
         return platform::ApplicationBundle{identifier, std::move(name), std::move(display)};

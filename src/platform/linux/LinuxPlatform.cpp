@@ -7,6 +7,7 @@
 #include "platform/linux/TerminationSignals.h"
 #include "platform/linux/atspi/AtSpiAccessibility.h"
 #include "platform/linux/freedesktop/ApplicationFolders.h"
+#include "platform/linux/freedesktop/DesktopApplicationBundles.h"
 #include "platform/linux/freedesktop/DesktopEntryIndex.h"
 #include "platform/linux/freedesktop/JsonUserDefaults.h"
 #include "platform/linux/freedesktop/KeyFile.h"
@@ -26,6 +27,7 @@
 #include "platform/qt/QtAlerts.h"
 #include "platform/qt/QtColorPanel.h"
 #include "platform/qt/QtRunLoop.h"
+#include "platform/qt/ThemeApplicationIcons.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
@@ -66,8 +68,8 @@ void setWindowClass(const QString& windowClass) {
 
 void logWhatIsMissing(Foundation& foundation) {
     if (!foundation.session.isConnected()) {
-        core::log(u"no session bus: selections cannot be read, and only a tray of the older kind "
-                  u"can show the menu");
+        core::log(u"no session bus: selections cannot be read, a second start is not noticed, and "
+                  u"only a tray of the older kind can show the menu");
     }
     if (!foundation.windows.activeWindow().hasWindowManager()) {
         core::log(u"no window manager: the window with the keyboard counts as the active one");
@@ -92,13 +94,14 @@ std::optional<QString> prepareProcess() {
     return std::nullopt;
 }
 
-std::unique_ptr<Platform> makePlatform() {
+std::unique_ptr<Platform> makePlatform(std::unique_ptr<ProgramInstance> programInstance) {
     auto connection = XcbConnection::open();
     if (!connection) {
         core::fatal(u"the X server went away during the start");
     }
     setWindowClass(QStringLiteral("corvane-quillet"));
     auto platform = std::make_unique<Platform>();
+    platform->programInstance = std::move(programInstance);
     platform->runLoop = std::make_unique<QtRunLoop>();
     const auto foundation = std::make_shared<Foundation>(std::move(connection), *platform->runLoop);
     platform->foundation = foundation;
@@ -114,6 +117,9 @@ std::unique_ptr<Platform> makePlatform() {
     platform->windowServer = std::make_unique<X11WindowServer>(shared.connection);
     platform->workspace = std::make_unique<EwmhWorkspace>(
         shared.windows, shared.desktopEntries, *platform->systemInfo->bundleIdentifier());
+    platform->applicationBundles = std::make_unique<DesktopApplicationBundles>(
+        ApplicationFolders::fromEnvironment(), localeSuffixes(messagesLocale()), currentDesktops());
+    platform->applicationIcons = std::make_unique<ThemeApplicationIcons>();
     platform->accessibility = std::make_unique<AtSpiAccessibility>(shared.windows, shared.session);
     platform->keyboardEvents = std::make_unique<XTestKeyboardEvents>(
         *shared.connection, *platform->runLoop, shared.ownKeyStrokes);

@@ -1,5 +1,8 @@
 #include "platform/linux/x11/X11WindowServer.h"
 
+#include "platform/linux/x11/StartupNotification.h"
+#include "platform/linux/x11/WindowProperties.h"
+
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWidget>
@@ -65,6 +68,29 @@ QScreen* nearestScreen(const QPoint& point) {
     return best;
 }
 
+/// Asks the window manager to bring a window forward. The toolkit's own request would carry the
+/// time of the last event in one of its windows, from long ago for a program without windows, and
+/// would be refused as an intrusion.
+void activateAsUser(XcbConnection& connection, xcb_window_t window, xcb_timestamp_t time) {
+    // Over the toolkit's connection: the manager must have seen the window appear before.
+    const auto* toolkit = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    if (toolkit == nullptr) {
+        return;
+    }
+    constexpr std::uint32_t fromTheUser = 2;
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = window;
+    message.type = connection.atom("_NET_ACTIVE_WINDOW");
+    message.data.data32[0] = fromTheUser;
+    message.data.data32[1] = time;
+    xcb_send_event(toolkit->connection(), 0, connection.root(),
+                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                   reinterpret_cast<const char*>(&message));
+    xcb_flush(toolkit->connection());
+}
+
 } // namespace
 
 X11WindowServer::X11WindowServer(std::shared_ptr<XcbConnection> connection)
@@ -109,6 +135,30 @@ void X11WindowServer::orderFront(QWidget& window) {
 
 void X11WindowServer::orderOut(QWidget& window) {
     window.hide();
+}
+
+void X11WindowServer::bringToFront(QWidget& window, const ActivationToken& token) {
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    if (hasWindowManager()) {
+        const auto time = startupTime(token.startupId).value_or(connection_->serverTime());
+        activateAsUser(*connection_, static_cast<xcb_window_t>(window.winId()), time);
+    } else {
+        window.activateWindow();
+    }
+    if (!token.startupId.isEmpty()) {
+        sendStartupCompleted(*connection_, static_cast<xcb_window_t>(window.winId()),
+                             token.startupId);
+    }
+}
+
+bool X11WindowServer::hasWindowManager() {
+    const WindowProperties properties(*connection_);
+    constexpr const char* sign = "_NET_SUPPORTING_WM_CHECK";
+    const auto window = properties.singleWindow(connection_->root(), sign);
+    // The property of a manager that crashed stays behind; its window does not.
+    return window && properties.singleWindow(*window, sign) == window;
 }
 
 bool X11WindowServer::hasTranslucency() {

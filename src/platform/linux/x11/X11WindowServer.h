@@ -19,10 +19,13 @@ public:
     Rect frameOnScreen(const QWidget& part) override;
     void orderFront(QWidget& window) override;
     void orderOut(QWidget& window) override;
+    void bringToFront(QWidget& window, const ActivationToken& token) override;
     bool hasTranslucency() override;
     void becomeAccessory() override;
 
 private:
+    bool hasWindowManager();
+
     std::shared_ptr<XcbConnection> connection_;
 };
 
