@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QMenu>
 #include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -95,6 +96,18 @@ TEST_F(AppDelegateTest, LaunchShowsTheItemBeforeMonitoringAndStartsTheUpdaterThr
     EXPECT_EQ(fakes.updater.starts, 1);
     entry(8).trigger();
     EXPECT_EQ(fakes.updater.checks, 1);
+}
+
+TEST_F(AppDelegateTest, AFurtherStartOrTheDesktopMayAskItToQuit) {
+    launch();
+    ASSERT_TRUE(fakes.programInstance.handler);
+    QTimer::singleShot(0, qApp, [&] {
+        fakes.programInstance.handler({platform::InstanceRequest::Kind::Quit, {}});
+    });
+    QTimer::singleShot(5000, qApp, [] { QCoreApplication::exit(1); });
+    EXPECT_EQ(QApplication::exec(), 0);
+    delegate.reset();
+    EXPECT_FALSE(fakes.programInstance.handler);
 }
 
 TEST_F(AppDelegateTest, ADelegateThatIsGoneStartsNoUpdaterAndLeavesNoItem) {

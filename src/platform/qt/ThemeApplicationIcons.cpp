@@ -44,9 +44,25 @@ QImage fromTheme(const QString& name, int pixels) {
     return image.scaled(pixels, pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
-} // namespace
+/// Desktops that tell the toolkit of no theme leave it with the one in which applications install
+/// their own icons: what they name in general terms comes from a theme that is there.
+void chooseFallbackTheme() {
+    const QStringList folders = QIcon::themeSearchPaths();
+    for (const QString& theme : {QStringLiteral("Adwaita"), QStringLiteral("breeze"),
+                                 QStringLiteral("Papirus"), QStringLiteral("gnome")}) {
+        for (const QString& folder : folders) {
+            if (QFileInfo::exists(folder + QLatin1Char('/') + theme +
+                                  QStringLiteral("/index.theme"))) {
+                QIcon::setFallbackThemeName(theme);
+                // Themes that were read before forget what they fell back to.
+                QIcon::setThemeSearchPaths(folders);
+                return;
+            }
+        }
+    }
+}
 
-ThemeApplicationIcons::ThemeApplicationIcons() = default;
+} // namespace
 
 QImage ThemeApplicationIcons::picture(const IconReference& icon, int side,
                                       double devicePixelRatio) {
@@ -58,6 +74,10 @@ QImage ThemeApplicationIcons::picture(const IconReference& icon, int side,
     const QImage* known = kept_.object(key);
     QImage image = known != nullptr ? *known : QImage();
     if (known == nullptr) {
+        if (!themeChosen_) {
+            themeChosen_ = true;
+            chooseFallbackTheme();
+        }
         const bool isPath = icon.nameOrPath.startsWith(u'/');
         image = isPath ? fromFile(icon.nameOrPath, pixels) : fromTheme(icon.nameOrPath, pixels);
         constexpr qsizetype leastCost = 256;

@@ -18,6 +18,9 @@ public:
     QDBusConnection connect();
     void disconnect(const QDBusConnection& connection);
 
+    /// For programs that are to use this bus.
+    const QString& address() const { return address_; }
+
 private:
     QProcess daemon_;
     QString address_;
