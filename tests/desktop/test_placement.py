@@ -83,27 +83,38 @@ class SecondScreenTest(DesktopCase):
 
 
 class DoubleScaleTest(DesktopCase):
-    """A screen with two pixels to the point; the editor draws for itself at one."""
+    """A screen with two pixels to the point."""
 
     SCREEN = Rect(0, 0, 2560, 1600)
     desktop_options = {"width": 2560, "height": 1600}
 
-    def test_the_bar_is_twice_as_large_and_8_points_above_the_picture_of_the_selection(self):
-        editor = Mousepad(self.desktop, TEXT, Rect(500, 700, 1200, 600))
+    def assert_bar_above(self, editor, seen_from):
+        """The picture counts: the editor's own word is in pixels or in points."""
         program = self.start_program(settings={"appearanceDelay": 0}, scale=2)
         words = self.desktop.select(editor.text, "document")
-        frame = program.wait_for_bar()
         told = editor.text.extents(*words)
-        expected = bar.expected_frame(told, self.SCREEN, first=True, scale=2)
+        seen = self.desktop.highlight_seen(seen_from(told))
+        frame = program.wait_for_bar()
+        expected = bar.expected_frame(seen, self.SCREEN, first=True, scale=2)
         self.assertEqual((frame.width, frame.height), (expected.width, expected.height))
         # Windows stand on whole points: one pixel may be lost.
         self.assertAlmostEqual(frame.x, expected.x, delta=1)
-        self.assertAlmostEqual(self.desktop.highlight_seen(told).y - frame.bottom, 2 * bar.GAP,
-                               delta=1)
+        self.assertAlmostEqual(frame.y, expected.y, delta=1)
 
         log = self.key_log()
         program.click("Monospaced")
         log.wait_for(["Control+Shift+m"])
+
+    def test_over_an_editor_that_draws_for_the_same_screen(self):
+        editor = Mousepad(self.desktop, TEXT, Rect(500, 700, 1200, 600), {"GDK_SCALE": "2"})
+        self.addCleanup(self.desktop.session.end, editor.process)
+        self.assert_bar_above(editor, lambda told: Rect(
+            2 * told.x, 2 * told.y, 2 * told.width, 2 * told.height))
+
+    def test_over_an_editor_that_knows_nothing_of_dense_screens(self):
+        editor = Mousepad(self.desktop, TEXT, Rect(500, 700, 1200, 600))
+        self.addCleanup(self.desktop.session.end, editor.process)
+        self.assert_bar_above(editor, lambda told: told)
 
 
 if __name__ == "__main__":

@@ -190,7 +190,7 @@ std::optional<Rect> AtSpiAccessibility::boundsForRange(const Element& element,
         return std::nullopt;
     }
     const auto bounds =
-        BoundsReader(*inquiry_, windows_, originError_).read(selected->spans, focused->process);
+        BoundsReader(*inquiry_, windows_, coordinates_).read(selected->spans, focused->process);
     if (inquiry_->ranOut()) {
         guards_[focused->process].ranOut(Clock::now());
     }

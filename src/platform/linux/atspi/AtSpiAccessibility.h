@@ -3,10 +3,10 @@
 #include "platform/Accessibility.h"
 #include "platform/linux/ApplicationWindows.h"
 #include "platform/linux/atspi/AccessibilityBus.h"
+#include "platform/linux/atspi/ApplicationCoordinates.h"
 #include "platform/linux/atspi/ApplicationDirectory.h"
 #include "platform/linux/atspi/EventListener.h"
 #include "platform/linux/atspi/FocusFinder.h"
-#include "platform/linux/atspi/OriginError.h"
 #include "platform/linux/atspi/SelectionReader.h"
 #include "platform/linux/atspi/SlownessGuard.h"
 #include "platform/linux/atspi/TrustQuestion.h"
@@ -71,7 +71,7 @@ private:
     EventListener events_;
     ApplicationDirectory directory_;
     FocusFinder focusFinder_;
-    OriginError originError_;
+    ApplicationCoordinates coordinates_;
     TrustQuestion trustQuestion_;
     QHash<ProcessIdentifier, SlownessGuard> guards_;
 

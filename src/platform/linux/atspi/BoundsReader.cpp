@@ -76,9 +76,8 @@ std::optional<PixelRect> BoundsReader::read(const std::vector<TextSpan>& spans,
     if (!clientArea) {
         return onScreens(*said);
     }
-    const auto error = originError_.of(spans.front().object, *clientArea, inquiry_);
-    const auto inWindow =
-        common({said->x + error.x, said->y + error.y, said->width, said->height}, *clientArea);
+    const auto inWindow = common(
+        coordinates_.toPixels(*said, spans.front().object, *clientArea, inquiry_), *clientArea);
     return inWindow ? onScreens(*inWindow) : std::nullopt;
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/linux/ApplicationWindows.h"
+#include "platform/linux/atspi/ApplicationCoordinates.h"
 #include "platform/linux/atspi/Inquiry.h"
-#include "platform/linux/atspi/OriginError.h"
 #include "platform/linux/atspi/SelectionReader.h"
 
 #include <optional>
@@ -13,10 +13,10 @@ namespace platform {
 /// Finds out where spans of text stand on the screen.
 class BoundsReader {
 public:
-    BoundsReader(Inquiry& inquiry, ApplicationWindows& windows, OriginError& originError)
+    BoundsReader(Inquiry& inquiry, ApplicationWindows& windows, ApplicationCoordinates& coordinates)
         : inquiry_(inquiry)
         , windows_(windows)
-        , originError_(originError) {}
+        , coordinates_(coordinates) {}
 
     /// The smallest rectangle around the visible part of all spans, in device pixels. Empty when
     /// the application does not tell, or none of them can be seen.
@@ -28,7 +28,7 @@ private:
 
     Inquiry& inquiry_;
     ApplicationWindows& windows_;
-    OriginError& originError_;
+    ApplicationCoordinates& coordinates_;
 };
 
 } // namespace platform

@@ -24,6 +24,7 @@ bool isWorthEntering(unsigned role, const StateSet& states, int childCount) {
     case Role::RootPane:
     case Role::Paragraph:
     case Role::Heading:
+    case Role::Application:
     case Role::Static:
         break;
     }

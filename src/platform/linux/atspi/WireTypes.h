@@ -19,6 +19,7 @@ enum class Role : unsigned {
     Tree = 65,
     TreeTable = 66,
     Paragraph = 73,
+    Application = 75,
     Heading = 83,
     Static = 116,
 };
@@ -42,7 +43,7 @@ private:
     std::uint64_t bits_ = 0;
 };
 
-/// A rectangle as applications give it, in device pixels.
+/// A rectangle as applications give it, in what they count in: mostly device pixels.
 struct Extents {
     int x = 0;
     int y = 0;

@@ -109,4 +109,35 @@ TEST_F(BoundsTest, APaneThatForgetsTheMenuBarIsPutRight) {
     EXPECT_EQ(look().bounds, (Rect{282, 217, 303, 19}));
 }
 
+TEST_F(BoundsTest, UnitsOfSeveralPixelsAreKnownByTheSizeOfTheWindow) {
+    auto object = focusedText(QStringLiteral("text"), {{0, 4}});
+    object.ranges.insert({0, 4}, {347, 237, 45, 18});
+    show(application, object);
+    FakeObject root;
+    root.role = static_cast<unsigned>(platform::Role::Application);
+    root.children = {QStringLiteral("/window")};
+    application.set(QStringLiteral("root"), root);
+    FakeObject window;
+    window.states = {platform::State::Active};
+    window.hasText = false;
+    window.parent = QStringLiteral("/org/a11y/atspi/accessible/root");
+    window.children = {QStringLiteral("/text")};
+    const auto boundsInWindow = [&](const Extents& told) {
+        window.extents = told;
+        application.set(QStringLiteral("/window"), window);
+        return look().bounds;
+    };
+    start();
+    windows.clientArea = PixelRect{401, 420, 1000, 600};
+    EXPECT_EQ(boundsInWindow({200, 210, 500, 300}), (Rect{694, 474, 90, 36}));
+    // Without the invisible edges that belong to the window.
+    EXPECT_EQ(boundsInWindow({200, 210, 474, 274}), (Rect{694, 474, 90, 36}));
+
+    // Of its own size, or of one that means nothing.
+    windows.clientArea = PixelRect{0, 0, 1000, 600};
+    EXPECT_EQ(boundsInWindow({0, 0, 1000, 600}), (Rect{347, 237, 45, 18}));
+    EXPECT_EQ(boundsInWindow({0, 0, 500, 600}), (Rect{347, 237, 45, 18}));
+    EXPECT_EQ(boundsInWindow({0, 0, 0, 0}), (Rect{347, 237, 45, 18}));
+}
+
 } // namespace
