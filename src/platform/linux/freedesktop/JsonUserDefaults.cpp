@@ -27,9 +27,10 @@ std::optional<DefaultsValue> fromJson(const Json& json) {
         return json.get<std::int64_t>();
     case Json::value_t::number_unsigned: {
         const auto number = json.get<std::uint64_t>();
-        return std::in_range<std::int64_t>(number)
-                   ? DefaultsValue(static_cast<std::int64_t>(number))
-                   : DefaultsValue(number);
+        if (std::in_range<std::int64_t>(number)) {
+            return static_cast<std::int64_t>(number);
+        }
+        return number;
     }
     case Json::value_t::number_float:
         return json.get<double>();
