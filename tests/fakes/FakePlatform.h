@@ -223,7 +223,16 @@ struct FakeUpdater final : platform::Updater {
 struct FakeSystemInfo final : platform::SystemInfo {
     std::optional<QString> identifier = QStringLiteral("com.corvane.Quillet");
 
+    std::optional<QString> version = QStringLiteral("1.0.2");
+    std::optional<QString> build = QStringLiteral("7");
+    platform::OperatingSystemVersion systemVersion{14, 5, 0};
+    QString user = QStringLiteral("anna");
+
     std::optional<QString> bundleIdentifier() override { return identifier; }
+    std::optional<QString> marketingVersion() override { return version; }
+    std::optional<QString> buildNumber() override { return build; }
+    platform::OperatingSystemVersion operatingSystemVersion() override { return systemVersion; }
+    QString userName() override { return user; }
 };
 
 /// A whole platform of recording fakes, current for as long as it lives.
