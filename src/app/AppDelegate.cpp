@@ -2,6 +2,7 @@
 
 #include "app/StatusIcon.h"
 #include "bar/FormattingBarController.h"
+#include "core/Log.h"
 #include "core/NotificationCenter.h"
 #include "monitor/NotesAutomation.h"
 #include "monitor/NotesMonitor.h"
@@ -74,7 +75,7 @@ void AppDelegate::setupMonitoring() {
     connectSelectionToFormat();
     notesMonitor_->startMonitoring();
     if (QAction* status = statusMenu_.itemWithTag(StatusMenu::statusTag)) {
-        status->setText(QStringLiteral("Status: ") + QStringLiteral("Ready"));
+        status->setText(QStringLiteral("Status: Ready"));
     }
 }
 
@@ -123,9 +124,12 @@ void AppDelegate::checkAccessibility() {
                         "provide formatting features.\n\nPlease grant access in System Settings > "
                         "Privacy & Security > Accessibility."),
          {QStringLiteral("Open System Settings"), QStringLiteral("Cancel")}});
-    if (answer == platform::Alerts::firstButtonReturn) {
-        platform_.workspace->openUrl(QUrl(QStringLiteral(
-            "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility")));
+    if (answer != platform::Alerts::firstButtonReturn) {
+        return;
+    }
+    if (!platform_.workspace->openUrl(QUrl(QStringLiteral(
+            "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility")))) {
+        core::log(u"this desktop has no accessibility settings to open");
     }
 }
 

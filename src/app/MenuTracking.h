@@ -16,7 +16,7 @@ namespace app {
 /// anywhere, another window became active, or ten seconds have passed.
 class MenuTracking : public QObject {
 public:
-    static constexpr platform::Seconds longestUnseen{10.0};
+    static constexpr platform::Seconds longestUnseen{3.0};
 
     MenuTracking(QMenu& menu, platform::RunLoop& runLoop, platform::PointerMonitor& pointerMonitor);
     ~MenuTracking() override;

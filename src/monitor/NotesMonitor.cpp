@@ -32,17 +32,9 @@ std::optional<platform::Screen> primaryScreen(platform::Screens& screens) {
 
 } // namespace
 
-NotesMonitor::NotesMonitor()
-    : platform_(platform::current()) {}
-
 NotesMonitor::NotesMonitor(platform::Platform& platform, settings::AppSettingsManager& settings)
     : platform_(platform)
-    , settings_(&settings) {}
-
-// Asked for late: without the permission the store is not brought into being.
-settings::AppSettingsManager& NotesMonitor::settings() const {
-    return settings_ != nullptr ? *settings_ : settings::AppSettingsManager::shared();
-}
+    , settings_(settings) {}
 
 void NotesMonitor::startMonitoring() {
     if (!platform_.accessibility->isProcessTrusted(platform::TrustPrompt::Shown)) {
@@ -68,7 +60,7 @@ void NotesMonitor::pollForSelection() {
     if (!frontmost || frontmost->bundleIdentifier == platform_.systemInfo->bundleIdentifier()) {
         return;
     }
-    if (!settings().isAppAllowed(frontmost->bundleIdentifier)) {
+    if (!settings_.isAppAllowed(frontmost->bundleIdentifier)) {
         clearIfSomethingWasSelected();
         return;
     }
@@ -96,12 +88,12 @@ void NotesMonitor::pollForSelection() {
     hasSelection_ = true;
     targetApplication_ = frontmost;
     currentSelectionRect_ = selectionRect(focused);
-    if (settings().useKeyboardShortcut) {
+    if (settings_.useKeyboardShortcut) {
         return;
     }
 
     cancelAppearance();
-    const Seconds delay(settings().appearanceDelay);
+    const Seconds delay(settings_.appearanceDelay);
     if (delay > Seconds::zero()) {
         pendingSelectionRect_ = currentSelectionRect_;
         scheduleAppearance(delay);
@@ -163,13 +155,13 @@ Rect NotesMonitor::fromTopLeft(const Rect& bounds) {
 void NotesMonitor::setupGlobalHotkey() {
     eventMonitor_ =
         platform_.globalKeyMonitor->addKeyDownMonitor([this](const platform::KeyDownEvent& event) {
-            if (!settings().useKeyboardShortcut) {
+            if (!settings_.useKeyboardShortcut) {
                 return;
             }
             // The event's flags alone are masked: a stored value with other bits never matches.
-            const bool matches = event.keyCode == settings().shortcutKeyCode &&
+            const bool matches = event.keyCode == settings_.shortcutKeyCode &&
                                  (event.modifierFlags & platform::modifierFlags::mask) ==
-                                     settings().shortcutModifiers;
+                                     settings_.shortcutModifiers;
             if (matches && hasSelection_ && !currentSelectionRect_.isZero()) {
                 report(true, currentSelectionRect_);
             }

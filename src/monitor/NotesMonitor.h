@@ -21,8 +21,6 @@ public:
     /// rectangle asks for it to go.
     using SelectionHandler = std::function<void(bool visible, const platform::Rect& rect)>;
 
-    /// Works on the current platform and the program's own settings.
-    NotesMonitor();
     /// Both must outlive the monitor.
     NotesMonitor(platform::Platform& platform, settings::AppSettingsManager& settings);
 
@@ -47,8 +45,6 @@ private:
     using Element = platform::Accessibility::Element;
     using TextRange = platform::Accessibility::TextRange;
 
-    settings::AppSettingsManager& settings() const;
-
     void startSelectionPolling();
     void pollForSelection();
     void clearIfSomethingWasSelected();
@@ -61,7 +57,7 @@ private:
     void report(bool visible, platform::Rect rect);
 
     platform::Platform& platform_;
-    settings::AppSettingsManager* settings_ = nullptr;
+    settings::AppSettingsManager& settings_;
 
     std::optional<platform::RunningApplication> targetApplication_;
     platform::Rect currentSelectionRect_;

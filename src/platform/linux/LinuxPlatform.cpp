@@ -34,6 +34,8 @@
 #include <QGuiApplication>
 #include <QWindow>
 
+#include <csignal>
+
 namespace platform {
 
 namespace {
@@ -74,6 +76,10 @@ void logWhatIsMissing(Foundation& foundation) {
     if (!foundation.windows.activeWindow().hasWindowManager()) {
         core::log(u"no window manager: the window with the keyboard counts as the active one");
     }
+    if (!foundation.inputEvents) {
+        core::log(u"no XInput 2: the global shortcut is not seen, and a click elsewhere does not "
+                  u"close the heading picker");
+    }
     if (QGuiApplication::screens().isEmpty()) {
         core::log(u"no screen: the bar appears once there is one");
     }
@@ -82,13 +88,16 @@ void logWhatIsMissing(Foundation& foundation) {
 } // namespace
 
 std::optional<QString> prepareProcess() {
+    // Whoever reads our log lines may go away; that must not end the program.
+    std::signal(SIGPIPE, SIG_IGN);
     if (!XcbDisplay::connect()) {
         const QString display = qEnvironmentVariable("DISPLAY");
         return display.isEmpty() ? QStringLiteral("no X server: DISPLAY is not set")
                                  : QStringLiteral("no X server answers at %1").arg(display);
     }
     // Under Wayland the toolkit would choose another system than this layer works on.
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    const QByteArray chosen = qgetenv("QT_QPA_PLATFORM");
+    if (chosen.isEmpty() || chosen.startsWith("wayland")) {
         qputenv("QT_QPA_PLATFORM", "xcb");
     }
     return std::nullopt;

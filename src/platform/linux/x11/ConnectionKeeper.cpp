@@ -22,6 +22,9 @@ namespace {
     // Moved out of the way first, since either may have the number of the other's place.
     lifeline = fcntl(lifeline, F_DUPFD, keptSocket + 1);
     socket = fcntl(socket, F_DUPFD, keptSocket + 1);
+    if (lifeline < 0 || socket < 0) {
+        _exit(0);
+    }
     dup2(lifeline, keptLifeline);
     dup2(socket, keptSocket);
     // The program's other connections are to close with the program, and so is the writing end.

@@ -31,10 +31,11 @@ Rect fromToolkit(const QRect& frame) {
             double(frame.width()), double(frame.height())};
 }
 
-/// X counts pixels in 16 bits. Bringing a number into a quarter of that range keeps it there at
-/// every ratio and after a window's size is added to its position.
+/// X counts pixels in 16 bits. A number is brought into the part of that range that leaves room
+/// for a window's size at the largest ratio of all screens.
 int wholePoint(double number) {
-    constexpr double farthest = 8191;
+    constexpr double farthestPixel = 30000;
+    const double farthest = farthestPixel / std::max(1.0, qGuiApp->devicePixelRatio());
     return std::isnan(number)
                ? 0
                : static_cast<int>(std::lround(std::clamp(number, -farthest, farthest)));

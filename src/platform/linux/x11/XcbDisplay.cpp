@@ -100,8 +100,13 @@ void* XcbDisplay::awaitReply(unsigned int sequence) {
 }
 
 void* XcbDisplay::giveUp(unsigned int sequence) {
-    // Many reads follow one another in one poll of the selection: only the first may wait.
-    silentUntil_ = std::chrono::steady_clock::now() + silence;
+    // Many reads follow one another in one poll of the selection: only the first may wait. What
+    // goes unanswered during the silence does not prolong it, or a server that is asked often
+    // would never be listened to again.
+    const auto now = std::chrono::steady_clock::now();
+    if (now >= silentUntil_) {
+        silentUntil_ = now + silence;
+    }
     xcb_discard_reply(connection_, sequence);
     return nullptr;
 }
