@@ -15,11 +15,6 @@ target_compile_definitions(quillet_options INTERFACE
 target_compile_options(quillet_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast
     -Wnon-virtual-dtor -Woverloaded-virtual)
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    # With little optimization GCC 12 takes the unused alternatives of a std::variant for
-    # uninitialized values; the sanitizers find the real ones.
-    target_compile_options(quillet_options INTERFACE -Wno-maybe-uninitialized)
-endif()
 if(QUILLET_WARNINGS_AS_ERRORS)
     target_compile_options(quillet_options INTERFACE -Werror)
 endif()

@@ -13,7 +13,7 @@ namespace app {
 /// Lets the poll rest while a menu is open. The desktop's panel may show the menu in the program's
 /// stead and is not sure to say that it closed it, so a menu of which the program itself shows
 /// nothing also counts as closed once an entry was chosen, the pointer or Escape was pressed
-/// anywhere, another window became active, or ten seconds have passed.
+/// anywhere, another window became active, or three seconds have passed.
 class MenuTracking : public QObject {
 public:
     static constexpr platform::Seconds longestUnseen{3.0};

@@ -332,13 +332,3 @@ TEST_F(NotesMonitorTest, ItsOwnerMayEndItFromTheReport) {
     pass(1);
     EXPECT_FALSE(monitor);
 }
-
-TEST(NotesMonitorOfTheProgram, BringsTheSettingsIntoBeingWithItsFirstPoll) {
-    fakes::FakePlatform platform;
-    platform.workspace.frontmost = platform::RunningApplication{};
-    monitor::NotesMonitor monitor;
-    monitor.startMonitoring();
-    EXPECT_TRUE(platform.userDefaults.writes.empty());
-    platform.runLoop.advance(poll);
-    EXPECT_EQ(platform.userDefaults.writes.size(), 6U);
-}
