@@ -9,7 +9,11 @@ namespace platform {
 
 namespace {
 
-constexpr std::chrono::milliseconds startUpLimit{1000};
+/// At login the accessibility bus may have to be started first, and a "no" holds until the next
+/// start of the program.
+constexpr std::chrono::milliseconds startUpLimit{5000};
+/// A menu action asks, and the user waits.
+constexpr std::chrono::milliseconds questionLimit{250};
 constexpr std::chrono::milliseconds takeUpLimit{100};
 
 } // namespace
@@ -37,7 +41,10 @@ AtSpiAccessibility::AtSpiAccessibility(ApplicationWindows& windows, QDBusConnect
     , bus_(std::move(session))
     , events_(bus_) {
     QObject::connect(&bus_, &AccessibilityBus::connected, &context_, [this] {
+        // Another bus gives the same names to other applications.
         directory_.clear();
+        focusFinder_ = {};
+        coordinates_ = {};
         outdated_ = Outdated::Focus;
     });
     QObject::connect(&events_, &EventListener::focusChanged, &context_,
@@ -51,12 +58,15 @@ AtSpiAccessibility::AtSpiAccessibility(ApplicationWindows& windows, QDBusConnect
 AtSpiAccessibility::~AtSpiAccessibility() = default;
 
 bool AtSpiAccessibility::isProcessTrusted(TrustPrompt prompt) {
+    if (prompt == TrustPrompt::Hidden) {
+        return bus_.isEnabled(questionLimit).value_or(false);
+    }
     if (!bus_.connect(startUpLimit)) {
         core::log(u"The accessibility bus does not answer");
         return false;
     }
     const auto enabled = bus_.isEnabled(startUpLimit);
-    if (enabled == false && prompt == TrustPrompt::Shown) {
+    if (enabled == false) {
         trustQuestion_.ask([this] { bus_.enable(); });
     }
     return enabled.value_or(false);
@@ -67,9 +77,10 @@ Accessibility::Element AtSpiAccessibility::applicationElement(ProcessIdentifier 
     return std::make_shared<ApplicationElement>(process);
 }
 
-void AtSpiAccessibility::startInquiry() {
+void AtSpiAccessibility::startInquiry(std::chrono::milliseconds spent) {
     earlierCalls_ = callCount();
-    inquiry_.emplace(bus_.connection(), limits_.deadline);
+    inquiry_.emplace(bus_.connection(),
+                     std::max(limits_.deadline - spent, std::chrono::milliseconds(0)));
 }
 
 int AtSpiAccessibility::callCount() const {
@@ -113,7 +124,8 @@ bool AtSpiAccessibility::takeUpBus() {
     if (!bus_.connect(takeUpLimit)) {
         return false;
     }
-    startInquiry();
+    // Connecting took its part of the time.
+    startInquiry(std::chrono::ceil<std::chrono::milliseconds>(Clock::now() - now));
     return true;
 }
 

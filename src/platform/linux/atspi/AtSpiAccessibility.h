@@ -63,7 +63,8 @@ private:
     std::shared_ptr<const FocusedElement> look(ProcessIdentifier process);
     std::optional<FocusedObject> findFocus(ProcessIdentifier process);
     void forgetApplication(const QString& service);
-    void startInquiry();
+    /// `spent` of the deadline is gone already.
+    void startInquiry(std::chrono::milliseconds spent = std::chrono::milliseconds(0));
 
     ApplicationWindows& windows_;
     ReadingLimits limits_;

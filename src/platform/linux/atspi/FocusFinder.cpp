@@ -1,5 +1,7 @@
 #include "platform/linux/atspi/FocusFinder.h"
 
+#include <QDBusError>
+
 #include <algorithm>
 
 namespace platform {
@@ -88,7 +90,11 @@ std::optional<FocusedObject> FocusFinder::search(const QString& service, Inquiry
         const auto reply = inquiry.ask(requests::focusedDescendants(window));
         const auto hits = Inquiry::decode<QList<ObjectReference>>(reply);
         if (!hits) {
-            if (!inquiry.ranOut()) {
+            // A window that closed in between says nothing of the application.
+            const auto error = QDBusError(reply).type();
+            const bool gone = error == QDBusError::UnknownObject ||
+                              error == QDBusError::ServiceUnknown || error == QDBusError::NoReply;
+            if (!inquiry.ranOut() && !gone) {
                 withoutCollection_.insert(service);
             }
             return std::nullopt;

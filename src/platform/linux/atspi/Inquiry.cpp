@@ -6,6 +6,13 @@
 
 namespace platform {
 
+namespace {
+
+/// By how much the library's time limit may fire before ours has passed.
+constexpr std::chrono::milliseconds timerGrain{10};
+
+} // namespace
+
 Inquiry::Inquiry(QDBusConnection connection, std::chrono::milliseconds budget)
     : connection_(std::move(connection))
     , deadline_(budget) {}
@@ -38,8 +45,10 @@ std::vector<QDBusMessage> Inquiry::askAll(const std::vector<Request>& requests) 
     for (auto& call : pending) {
         call.waitForFinished();
         const auto error = call.error().type();
-        ranOut_ = ranOut_ || error == QDBusError::NoReply || error == QDBusError::TimedOut ||
-                  error == QDBusError::Timeout;
+        const bool unanswered = error == QDBusError::NoReply || error == QDBusError::TimedOut ||
+                                error == QDBusError::Timeout;
+        // "No reply" is also what the bus says when the other side ends.
+        ranOut_ = ranOut_ || (unanswered && remaining() <= timerGrain);
         replies.push_back(call.reply());
     }
     return replies;

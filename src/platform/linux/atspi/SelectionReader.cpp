@@ -63,6 +63,9 @@ std::optional<Selection> SelectionReader::readParagraphs(const ObjectReference& 
         if (Inquiry::decode<int>(replies[index]).value_or(0) <= 0) {
             continue;
         }
+        if (objectsLeft_ <= 0) {
+            break;
+        }
         const auto part = readObject(questions[index].object, 0);
         if (part && !part->spans.empty()) {
             appendLine(whole, *part);

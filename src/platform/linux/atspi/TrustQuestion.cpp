@@ -34,7 +34,10 @@ void TrustQuestion::ask(std::function<void()> agreed) {
     question_->setEscapeButton(notNow);
     QObject::connect(question_, &QDialog::accepted, question_, std::move(agreed));
     question_->setModal(false);
+    // At login other windows open after it.
+    question_->setWindowFlag(Qt::WindowStaysOnTopHint);
     question_->show();
+    question_->raise();
 }
 
 } // namespace platform
