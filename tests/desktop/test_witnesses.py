@@ -26,7 +26,9 @@ class WitnessesTest(unittest.TestCase):
     def test_the_extents_of_a_selection_are_where_the_picture_shows_it(self):
         word = self.desktop.select_by_dragging(self.note.text, "others")
         told = self.note.text.extents(*word)
-        self.assertEqual(self.desktop.highlight_seen(told), told)
+        # The application tells of a selection before it has drawn all of it.
+        wait.until(lambda: self.desktop.highlight_seen(told) == told, 5.0,
+                   f"the picture shows the selection at {told}")
 
 
 if __name__ == "__main__":
