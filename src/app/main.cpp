@@ -1,4 +1,5 @@
 #include "app/CorvaneQuilletApp.h"
+#include "app/LaunchArguments.h"
 #include "core/Log.h"
 #include "platform/Platform.h"
 #include "settings/AppSettingsManager.h"
@@ -8,12 +9,17 @@
 #include <cstdlib>
 #include <utility>
 
+using platform::InstanceRequest;
 using platform::ProgramInstance;
 
 int main(int argc, char** argv) {
+    const InstanceRequest::Kind asked = app::requestOf({argv + 1, argv + argc});
     auto instance = platform::makeProgramInstance();
-    switch (instance->claim()) {
+    switch (instance->claim(asked)) {
     case ProgramInstance::Claim::First:
+        if (asked == InstanceRequest::Kind::Quit) {
+            return EXIT_SUCCESS;
+        }
         break;
     case ProgramInstance::Claim::HandedOver:
         return EXIT_SUCCESS;

@@ -8,9 +8,9 @@
 
 namespace platform {
 
-/// What a further start of the program, or the desktop, asks of the running one.
+/// What a start of the program, or the desktop, asks of the one that runs.
 struct InstanceRequest {
-    /// Activate: the program was started again.
+    /// Activate: the program was started again, and nothing in particular was asked.
     enum class Kind { Activate, Settings, Feedback, Quit };
 
     Kind kind = Kind::Activate;
@@ -31,9 +31,11 @@ public:
 
     virtual ~ProgramInstance() = default;
 
-    /// Makes this process the program, or tells the one that is. Waits for another process for
-    /// some seconds at most, and for nothing when there is none. Needs no application object.
-    [[nodiscard]] virtual Claim claim() = 0;
+    /// Makes this process the program, or tells the one that is what this start asks for. Waits for
+    /// another process for some seconds at most, and for nothing when there is none. The first one
+    /// gets what it asked for itself as a request, unless that is Activate. Needs no application
+    /// object.
+    [[nodiscard]] virtual Claim claim(InstanceRequest::Kind asked) = 0;
 
     /// Calls `handler` for each request, from the event loop, for as long as the registration
     /// lives. Those that arrive while there is no handler are kept for the next one. One handler

@@ -38,7 +38,7 @@ struct FakeProgramInstance final : platform::ProgramInstance {
     Claim answer = Claim::First;
     Handler handler;
 
-    Claim claim() override { return answer; }
+    Claim claim(platform::InstanceRequest::Kind) override { return answer; }
     core::Registration setRequestHandler(Handler h) override;
 };
 

@@ -18,19 +18,30 @@ const QString& xdgTokenKey() {
 }
 
 std::optional<InstanceRequest::Kind> kindOfAction(const QString& name) {
-    if (name == u"settings") {
-        return InstanceRequest::Kind::Settings;
-    }
-    if (name == u"feedback") {
-        return InstanceRequest::Kind::Feedback;
-    }
-    if (name == u"quit") {
-        return InstanceRequest::Kind::Quit;
+    using enum InstanceRequest::Kind;
+    for (const InstanceRequest::Kind kind : {Settings, Feedback, Quit}) {
+        if (name == actionName(kind)) {
+            return kind;
+        }
     }
     return std::nullopt;
 }
 
 } // namespace
+
+std::optional<QString> actionName(InstanceRequest::Kind kind) {
+    switch (kind) {
+    case InstanceRequest::Kind::Activate:
+        return std::nullopt;
+    case InstanceRequest::Kind::Settings:
+        return QStringLiteral("settings");
+    case InstanceRequest::Kind::Feedback:
+        return QStringLiteral("feedback");
+    case InstanceRequest::Kind::Quit:
+        return QStringLiteral("quit");
+    }
+    Q_UNREACHABLE();
+}
 
 QVariantMap platformData(const ActivationToken& token) {
     QVariantMap data;
@@ -55,24 +66,24 @@ core::Registration ApplicationObject::setRequestHandler(ProgramInstance::Handler
 }
 
 void ApplicationObject::Activate(const QVariantMap& platformData) {
-    accept(InstanceRequest::Kind::Activate, platformData);
+    accept({InstanceRequest::Kind::Activate, activationToken(platformData)});
 }
 
 void ApplicationObject::Open(const QStringList&, const QVariantMap& platformData) {
-    accept(InstanceRequest::Kind::Activate, platformData);
+    accept({InstanceRequest::Kind::Activate, activationToken(platformData)});
 }
 
 void ApplicationObject::ActivateAction(const QString& name, const QVariantList&,
                                        const QVariantMap& platformData) {
     if (const auto kind = kindOfAction(name)) {
-        accept(*kind, platformData);
+        accept({*kind, activationToken(platformData)});
     } else if (calledFromDBus()) {
         sendErrorReply(QDBusError::InvalidArgs, QStringLiteral("no action of that name"));
     }
 }
 
-void ApplicationObject::accept(InstanceRequest::Kind kind, const QVariantMap& platformData) {
-    undelivered_.push_back({kind, activationToken(platformData)});
+void ApplicationObject::accept(InstanceRequest request) {
+    undelivered_.push_back(std::move(request));
     deliver();
 }
 

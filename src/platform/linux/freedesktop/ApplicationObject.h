@@ -8,6 +8,7 @@
 #include <QVariantMap>
 
 #include <deque>
+#include <optional>
 
 namespace platform {
 
@@ -21,6 +22,9 @@ public:
     /// See ProgramInstance::setRequestHandler.
     [[nodiscard]] core::Registration setRequestHandler(ProgramInstance::Handler handler);
 
+    /// Hands a request to the handler from the event loop, or keeps it for the next handler.
+    void accept(InstanceRequest request);
+
     Q_SCRIPTABLE void Activate(const QVariantMap& platformData);
     /// The program has no documents: the same as Activate.
     Q_SCRIPTABLE void Open(const QStringList& uris, const QVariantMap& platformData);
@@ -29,12 +33,14 @@ public:
                                      const QVariantMap& platformData);
 
 private:
-    void accept(InstanceRequest::Kind kind, const QVariantMap& platformData);
     void deliver();
 
     ProgramInstance::Handler handler_;
     std::deque<InstanceRequest> undelivered_;
 };
+
+/// The name by which the desktop asks for it; none for a plain activation.
+std::optional<QString> actionName(InstanceRequest::Kind kind);
 
 /// The platform data of a call, and back.
 QVariantMap platformData(const ActivationToken& token);

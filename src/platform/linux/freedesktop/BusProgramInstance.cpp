@@ -50,7 +50,15 @@ BusProgramInstance::~BusProgramInstance() {
     bus_.unregisterObject(programPath());
 }
 
-ProgramInstance::Claim BusProgramInstance::claim() {
+ProgramInstance::Claim BusProgramInstance::claim(InstanceRequest::Kind asked) {
+    const Claim claim = claimName(asked);
+    if (claim == Claim::First && asked != InstanceRequest::Kind::Activate) {
+        object_.accept({asked, token_});
+    }
+    return claim;
+}
+
+ProgramInstance::Claim BusProgramInstance::claimName(InstanceRequest::Kind asked) {
     if (!bus_.isConnected()) {
         return Claim::First;
     }
@@ -69,7 +77,7 @@ ProgramInstance::Claim BusProgramInstance::claim() {
         if (result == primaryOwner || result == alreadyOwner) {
             return Claim::First;
         }
-        const QDBusMessage told = activateOwner(deadline);
+        const QDBusMessage told = askOwner(asked, deadline);
         if (told.type() == QDBusMessage::ReplyMessage) {
             return Claim::HandedOver;
         }
@@ -100,14 +108,19 @@ QDBusMessage BusProgramInstance::requestName(const QDeadlineTimer& deadline) con
     return call(request, deadline);
 }
 
-QDBusMessage BusProgramInstance::activateOwner(const QDeadlineTimer& deadline) const {
-    QDBusMessage activate = QDBusMessage::createMethodCall(
+QDBusMessage BusProgramInstance::askOwner(InstanceRequest::Kind asked,
+                                          const QDeadlineTimer& deadline) const {
+    const std::optional<QString> action = actionName(asked);
+    QDBusMessage request = QDBusMessage::createMethodCall(
         programName(), programPath(), QStringLiteral("org.freedesktop.Application"),
-        QStringLiteral("Activate"));
-    activate << platformData(token_);
+        action ? QStringLiteral("ActivateAction") : QStringLiteral("Activate"));
+    if (action) {
+        request << *action << QVariantList{};
+    }
+    request << platformData(token_);
     // An owner that has just ended is replaced by this process, not by one that the bus starts.
-    activate.setAutoStartService(false);
-    return call(activate, deadline);
+    request.setAutoStartService(false);
+    return call(request, deadline);
 }
 
 std::unique_ptr<ProgramInstance> makeProgramInstance() {

@@ -23,13 +23,14 @@ public:
                        std::chrono::milliseconds limit = defaultLimit);
     ~BusProgramInstance() override;
 
-    Claim claim() override;
+    Claim claim(InstanceRequest::Kind asked) override;
     core::Registration setRequestHandler(Handler handler) override;
 
 private:
+    Claim claimName(InstanceRequest::Kind asked);
     QDBusMessage call(const QDBusMessage& message, const QDeadlineTimer& deadline) const;
     QDBusMessage requestName(const QDeadlineTimer& deadline) const;
-    QDBusMessage activateOwner(const QDeadlineTimer& deadline) const;
+    QDBusMessage askOwner(InstanceRequest::Kind asked, const QDeadlineTimer& deadline) const;
 
     QDBusConnection bus_;
     ActivationToken token_;

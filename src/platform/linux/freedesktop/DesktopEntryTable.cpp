@@ -31,7 +31,8 @@ DesktopEntryTable DesktopEntryTable::read(const QStringList& folders,
     std::vector<DesktopEntry> entries;
     for (const auto& folder : folders) {
         QStringList paths;
-        QDirIterator files(folder, {QChar(u'*') + suffix()}, QDir::Files, QDirIterator::Subdirectories);
+        QDirIterator files(folder, {QChar(u'*') + suffix()}, QDir::Files,
+                           QDirIterator::Subdirectories);
         while (files.hasNext()) {
             paths.append(files.next());
         }

@@ -57,7 +57,7 @@ protected:
     /// A further start, which may wait for this thread.
     std::future<Claim> start(ActivationToken given, std::chrono::milliseconds limit) {
         return std::async(std::launch::async, [connection = bus.connect(), given, limit] {
-            return BusProgramInstance(connection, given, limit).claim();
+            return BusProgramInstance(connection, given, limit).claim(Kind::Activate);
         });
     }
 
@@ -94,7 +94,7 @@ protected:
 
 TEST_F(BusProgramInstanceTest, ASecondStartHandsOverWithItsToken) {
     BusProgramInstance first(bus.connect(), {});
-    ASSERT_EQ(first.claim(), Claim::First);
+    ASSERT_EQ(first.claim(Kind::Activate), Claim::First);
     const auto handler = record(first);
     auto second = start(token, longEnough);
     EXPECT_EQ(outcome(second), Claim::HandedOver);
@@ -104,7 +104,7 @@ TEST_F(BusProgramInstanceTest, ASecondStartHandsOverWithItsToken) {
 
 TEST_F(BusProgramInstanceTest, AProgramThatIsStillStartingGetsTheRequestLater) {
     BusProgramInstance first(bus.connect(), {});
-    ASSERT_EQ(first.claim(), Claim::First);
+    ASSERT_EQ(first.claim(Kind::Activate), Claim::First);
     auto second = start(token, longEnough);
     EXPECT_EQ(outcome(second), Claim::HandedOver);
     const auto handler = record(first);
@@ -113,9 +113,22 @@ TEST_F(BusProgramInstanceTest, AProgramThatIsStillStartingGetsTheRequestLater) {
     EXPECT_EQ(requests.front().token, token);
 }
 
+TEST_F(BusProgramInstanceTest, WhatAStartAsksForReachesWhoeverIsTheProgram) {
+    BusProgramInstance first(bus.connect(), token);
+    ASSERT_EQ(first.claim(Kind::Settings), Claim::First);
+    auto second = std::async(std::launch::async, [connection = bus.connect(), this] {
+        return BusProgramInstance(connection, token, longEnough).claim(Kind::Quit);
+    });
+    EXPECT_EQ(outcome(second), Claim::HandedOver);
+    const auto handler = record(first);
+    ASSERT_TRUE(fakes::waitUntil([&] { return requests.size() == 2; }));
+    EXPECT_EQ(requests, (std::vector{InstanceRequest{Kind::Settings, token},
+                                     InstanceRequest{Kind::Quit, token}}));
+}
+
 TEST_F(BusProgramInstanceTest, AProgramThatHangsIsGivenUpInTime) {
     BusProgramInstance hanging(bus.connect(), {});
-    ASSERT_EQ(hanging.claim(), Claim::First);
+    ASSERT_EQ(hanging.claim(Kind::Activate), Claim::First);
     testing::internal::CaptureStdout();
     // Nobody hands out events to this thread meanwhile.
     auto second = start({}, std::chrono::milliseconds(200));
@@ -144,13 +157,13 @@ TEST_F(BusProgramInstanceTest, TakesOverFromAProgramThatEndsWithoutAnAnswer) {
 TEST_F(BusProgramInstanceTest, WithoutABusEveryStartIsTheFirst) {
     testing::internal::CaptureStdout();
     const QDBusConnection none(QStringLiteral("no such connection"));
-    EXPECT_EQ(BusProgramInstance(none, {}).claim(), Claim::First);
+    EXPECT_EQ(BusProgramInstance(none, {}).claim(Kind::Activate), Claim::First);
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
 }
 
 TEST_F(BusProgramInstanceTest, ActionsArriveInTheirOrderAndWaitWhileNobodyHandlesThem) {
     BusProgramInstance first(bus.connect(), {});
-    ASSERT_EQ(first.claim(), Claim::First);
+    ASSERT_EQ(first.claim(Kind::Activate), Claim::First);
     const QVariantMap data{{QStringLiteral("desktop-startup-id"), QStringLiteral("id")},
                            {QStringLiteral("something else"), 7}};
     const auto action = [&](const QString& name) {

@@ -11,7 +11,7 @@ using platform::ProgramInstance;
 
 int main(int argc, char** argv) {
     const auto instance = platform::makeProgramInstance();
-    switch (instance->claim()) {
+    switch (instance->claim(platform::InstanceRequest::Kind::Activate)) {
     case ProgramInstance::Claim::First:
         break;
     case ProgramInstance::Claim::HandedOver:
