@@ -6,6 +6,8 @@
 #include "core/NotificationCenter.h"
 #include "monitor/NotesAutomation.h"
 #include "monitor/NotesMonitor.h"
+#include "settings/views/SettingsView.h"
+#include "ui/TitledWindow.h"
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -133,7 +135,14 @@ void AppDelegate::checkAccessibility() {
     }
 }
 
-void AppDelegate::openSettings(const platform::ActivationToken&) {}
+void AppDelegate::openSettings(const platform::ActivationToken& token) {
+    if (!settingsWindow_) {
+        settingsWindow_ = std::make_unique<ui::TitledWindow>(
+            QStringLiteral("Corvane Quillet Settings"), QSize(500, 450));
+        settingsWindow_->setContent(settings::SettingsView{settings_});
+    }
+    platform_.windowServer->bringToFront(*settingsWindow_, token);
+}
 
 void AppDelegate::checkForUpdates() {
     updaterController_.checkForUpdates();

@@ -12,6 +12,9 @@
 namespace bar {
 class FormattingBarController;
 }
+namespace ui {
+class TitledWindow;
+}
 namespace monitor {
 class NotesMonitor;
 }
@@ -40,6 +43,8 @@ public:
     /// Null before the start.
     monitor::NotesMonitor* notesMonitor() const { return notesMonitor_.get(); }
     bar::FormattingBarController* formattingBar() const { return formattingBar_.get(); }
+    /// Null before the settings were first opened.
+    ui::TitledWindow* settingsWindow() const { return settingsWindow_.get(); }
 
 private:
     void setupMenuBar();
@@ -58,6 +63,7 @@ private:
     core::Registration instanceRequests_;
     std::unique_ptr<bar::FormattingBarController> formattingBar_;
     std::unique_ptr<monitor::NotesMonitor> notesMonitor_;
+    std::unique_ptr<ui::TitledWindow> settingsWindow_;
 };
 
 } // namespace app

@@ -6,6 +6,7 @@
 #include "platform/ApplicationIcons.h"
 #include "platform/ColorPanel.h"
 #include "platform/GlobalKeyMonitor.h"
+#include "platform/KeyPresses.h"
 #include "platform/KeyboardEvents.h"
 #include "platform/LoginItem.h"
 #include "platform/PointerMonitor.h"
@@ -42,6 +43,7 @@ struct Platform {
     std::unique_ptr<ApplicationIcons> applicationIcons;
     std::unique_ptr<Accessibility> accessibility;
     std::unique_ptr<KeyboardEvents> keyboardEvents;
+    std::unique_ptr<KeyPresses> keyPresses;
     std::unique_ptr<GlobalKeyMonitor> globalKeyMonitor;
     std::unique_ptr<PointerMonitor> pointerMonitor;
     std::unique_ptr<ColorPanel> colorPanel;

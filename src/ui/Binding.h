@@ -23,4 +23,10 @@ Binding<T> binding(const std::shared_ptr<Model>& model, core::Published<T> Model
     return Binding<T>(model, &(model.get()->*property));
 }
 
+/// A published value whose owner outlives every view that shows it.
+template <typename T>
+Binding<T> binding(core::Published<T>& property) {
+    return Binding<T>(std::shared_ptr<void>(), &property);
+}
+
 } // namespace ui

@@ -9,8 +9,8 @@ namespace {
 /// The button that draws nothing; its label is a child.
 class PlainButton final : public QAbstractButton {
 public:
-    explicit PlainButton(Element label) {
-        setFocusPolicy(Qt::NoFocus);
+    PlainButton(Element label, ButtonFocus focus) {
+        setFocusPolicy(focus == ButtonFocus::Keyboard ? Qt::TabFocus : Qt::NoFocus);
         setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
         label.widget().setAttribute(Qt::WA_TransparentForMouseEvents);
         embed(*this, std::move(label));
@@ -22,8 +22,8 @@ protected:
 
 } // namespace
 
-Element button(Element label, std::function<void()> action) {
-    auto widget = std::make_unique<PlainButton>(std::move(label));
+Element button(Element label, std::function<void()> action, ButtonFocus focus) {
+    auto widget = std::make_unique<PlainButton>(std::move(label), focus);
     QObject::connect(widget.get(), &QAbstractButton::clicked, widget.get(), std::move(action));
     return Element(std::move(widget));
 }

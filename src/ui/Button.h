@@ -6,7 +6,10 @@
 
 namespace ui {
 
-/// A button without a bezel of its own: it looks exactly like its label. It takes no focus.
-Element button(Element label, std::function<void()> action);
+enum class ButtonFocus { None, Keyboard };
+
+/// A button without a bezel of its own: it looks exactly like its label. Unless asked for, it takes
+/// no focus.
+Element button(Element label, std::function<void()> action, ButtonFocus focus = ButtonFocus::None);
 
 } // namespace ui

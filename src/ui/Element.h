@@ -59,6 +59,9 @@ void embed(QWidget& container, Element element);
 /// directions in which it does not want to grow.
 void keepSizeUnlessGrowing(QBoxLayout& layout, Qt::Orientations directions);
 
+/// The directions in which a widget wants to grow, whether it is hidden or not.
+Qt::Orientations growingDirections(const QWidget& widget);
+
 /// The size that a widget takes where it may choose.
 QSize naturalSize(const QWidget& widget);
 

@@ -1,8 +1,10 @@
 #include "ui/Modifiers.h"
 
 #include "ui/Decoration.h"
+#include "ui/FocusRing.h"
 
 #include <QLayout>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPen>
 
@@ -18,6 +20,77 @@ bool centresContents(const QWidget& widget) {
     return widget.layout() == nullptr || widget.layout()->count() == 1;
 }
 
+/// Keeps a widget in the middle of the one around it.
+class Centred final : public QObject {
+public:
+    Centred(QWidget& around, QWidget& widget)
+        : QObject(&widget)
+        , widget_(widget) {
+        around.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Resize) {
+            QRect place({}, naturalSize(widget_));
+            place.moveCenter(static_cast<QWidget*>(watched)->rect().center());
+            widget_.setGeometry(place);
+        }
+        return false;
+    }
+
+private:
+    QWidget& widget_;
+};
+
+/// Tells when a widget is shown; that its window was minimised and is back does not count.
+class Appearance final : public QObject {
+public:
+    Appearance(QWidget& widget, std::function<void()> action)
+        : QObject(&widget)
+        , action_(std::move(action)) {
+        widget.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Show && !event->spontaneous()) {
+            action_();
+        }
+        return false;
+    }
+
+private:
+    std::function<void()> action_;
+};
+
+/// Tells of a click that no control in the widget took.
+class Tap final : public QObject {
+public:
+    Tap(QWidget& widget, std::function<void()> action)
+        : QObject(&widget)
+        , action_(std::move(action)) {
+        widget.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() != QEvent::MouseButtonPress &&
+            event->type() != QEvent::MouseButtonRelease) {
+            return false;
+        }
+        const auto& click = *static_cast<QMouseEvent*>(event);
+        const bool inside = static_cast<QWidget*>(watched)->rect().contains(click.pos());
+        if (click.button() != Qt::LeftButton) {
+            return false;
+        }
+        if (event->type() == QEvent::MouseButtonRelease && inside) {
+            action_();
+        }
+        return true;
+    }
+
+private:
+    std::function<void()> action_;
+};
+
 } // namespace
 
 Modifier padding(Padding padding) {
@@ -26,9 +99,9 @@ Modifier padding(Padding padding) {
             element = wrapped(std::move(element));
         }
         QLayout& layout = *element.widget().layout();
-        layout.setContentsMargins(
-            layout.contentsMargins() +
-            QMargins(padding.horizontal, padding.vertical, padding.horizontal, padding.vertical));
+        layout.setContentsMargins(layout.contentsMargins() +
+                                  QMargins(padding.horizontal + padding.leading, padding.vertical,
+                                           padding.horizontal, padding.vertical));
         element.setStage(Stage::Padded);
         return element;
     };
@@ -48,6 +121,9 @@ Modifier frame(Frame frame) {
         if (frame.height) {
             widget.setFixedHeight(*frame.height);
             policy.setVerticalPolicy(QSizePolicy::Fixed);
+        }
+        if (frame.minimumWidth) {
+            widget.setMinimumWidth(*frame.minimumWidth);
         }
         widget.setSizePolicy(policy);
         element.setStage(Stage::Framed);
@@ -73,15 +149,48 @@ Modifier background(RoundedRectangle shape, Fill fill) {
 }
 
 Modifier border(RoundedRectangle shape, Tint tint, double lineWidth) {
-    return [=](Element element) {
+    return border(
+        shape, [tint] { return tint; }, lineWidth);
+}
+
+Modifier border(RoundedRectangle shape, std::function<Tint()> tint, double lineWidth) {
+    return [=, tint = std::move(tint)](Element element) {
         Decoration::of(element.widget())
             .addInFront([=](QPainter& painter, const QRectF& rect, const QPalette& palette) {
                 const double half = lineWidth / 2;
                 const RoundedRectangle line{shape.cornerRadius - half};
                 painter.strokePath(line.path(rect.adjusted(half, half, -half, -half)),
-                                   QPen(color(tint, palette), lineWidth));
+                                   QPen(color(tint(), palette), lineWidth));
             });
         element.setStage(Stage::Decorated);
+        return element;
+    };
+}
+
+Modifier behind(const std::function<Element()>& backdrop) {
+    return [backdrop](Element element) {
+        auto owned = backdrop().take();
+        QWidget& widget = *owned;
+        owned.release()->setParent(&element.widget());
+        widget.lower();
+        new Centred(element.widget(), widget);
+        return element;
+    };
+}
+
+Modifier focusRing(double cornerRadius) {
+    return [cornerRadius](Element element) {
+        QWidget& widget = element.widget();
+        FocusRing::attach(widget, [&widget, cornerRadius] {
+            return FocusRing::Shape{QRectF(widget.rect()), cornerRadius};
+        });
+        return element;
+    };
+}
+
+Modifier onAppear(std::function<void()> action) {
+    return [action = std::move(action)](Element element) {
+        new Appearance(element.widget(), action);
         return element;
     };
 }
@@ -100,6 +209,13 @@ Modifier onHover(Binding<bool> isHovered) {
             isHovered->set(hovered);
         });
         return redrawOn(isHovered)(std::move(element));
+    };
+}
+
+Modifier onTap(std::function<void()> action) {
+    return [action = std::move(action)](Element element) {
+        new Tap(element.widget(), action);
+        return element;
     };
 }
 

@@ -16,6 +16,8 @@ using Modifier = std::function<Element(Element)>;
 struct Padding {
     int horizontal = 0;
     int vertical = 0;
+    /// Further space at the edge where reading begins.
+    int leading = 0;
 };
 
 /// Empty space around an element, in points.
@@ -24,9 +26,10 @@ Modifier padding(Padding padding);
 struct Frame {
     std::optional<int> width = std::nullopt;
     std::optional<int> height = std::nullopt;
+    std::optional<int> minimumWidth = std::nullopt;
 };
 
-/// A fixed width, height or both, in points, with the element in the middle.
+/// A fixed width, height or both, in points, or a least width, with the element in the middle.
 Modifier frame(Frame frame);
 
 /// The colour of a background, asked for whenever it is drawn.
@@ -41,12 +44,27 @@ Modifier background(RoundedRectangle shape, Fill fill);
 /// The outline of a shape inside an element's edges, in front of its background. Contents that
 /// reach the edge lie over it.
 Modifier border(RoundedRectangle shape, Tint tint, double lineWidth);
+/// The function may depend on what the view observes with redrawOn.
+Modifier border(RoundedRectangle shape, std::function<Tint()> tint, double lineWidth);
+
+/// An element of its own size behind another one, in its middle.
+Modifier behind(const std::function<Element()>& backdrop);
+
+/// A ring around a control of that shape while it has the keyboard.
+Modifier focusRing(double cornerRadius);
+
+/// Calls `action` each time an element comes to be seen in its window.
+Modifier onAppear(std::function<void()> action);
 
 /// Shown while the pointer rests over an element; also its name for assistive technology.
 Modifier tooltip(const QString& text);
 
 /// Keeps `isHovered` true while the pointer is over an element.
 Modifier onHover(Binding<bool> isHovered);
+
+/// Calls `action` for a press and release of the primary button on an element, except where a
+/// control in it takes the press.
+Modifier onTap(std::function<void()> action);
 
 /// An element's name for assistive technology.
 Modifier accessibilityLabel(const QString& label);

@@ -31,6 +31,20 @@ protected:
     }
 };
 
+/// A centred item moves to the leading edge, or to the top.
+void alignLeading(QLayoutItem& item) {
+    Qt::Alignment alignment = item.alignment();
+    if (alignment.testFlag(Qt::AlignHCenter)) {
+        alignment.setFlag(Qt::AlignHCenter, false);
+        alignment.setFlag(Qt::AlignLeading);
+    }
+    if (alignment.testFlag(Qt::AlignVCenter)) {
+        alignment.setFlag(Qt::AlignVCenter, false);
+        alignment.setFlag(Qt::AlignTop);
+    }
+    item.setAlignment(alignment);
+}
+
 } // namespace
 
 Element stack(Qt::Orientation axis, StackOptions options, std::vector<Element> children) {
@@ -48,6 +62,16 @@ Element stack(Qt::Orientation axis, StackOptions options, std::vector<Element> c
         }
         layout->addWidget(child.release());
         keepSizeUnlessGrowing(*layout, horizontal ? Qt::Vertical : Qt::Horizontal);
+        if (options.alignment == Alignment::Leading) {
+            alignLeading(*layout->itemAt(layout->count() - 1));
+        }
+    }
+    // What wants to grow along the stack comes before mere space.
+    for (int i = 0; i < layout->count(); ++i) {
+        const QWidget* child = layout->itemAt(i)->widget();
+        if (child != nullptr && growingDirections(*child).testFlag(axis)) {
+            layout->setStretch(i, 1000);
+        }
     }
     return Element(std::move(widget));
 }

@@ -6,12 +6,16 @@
 
 namespace ui {
 
+enum class Alignment { Leading, Center };
+
 struct StackOptions {
     /// Between neighbouring children, in points.
     int spacing = 8;
+    /// Across the stack.
+    Alignment alignment = Alignment::Center;
 };
 
-/// Children side by side or one below the other, centred across. Children that want to grow across
+/// Children side by side or one below the other, aligned across. Children that want to grow across
 /// the stack fill it.
 Element stack(Qt::Orientation axis, StackOptions options, std::vector<Element> children);
 

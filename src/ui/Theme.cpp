@@ -41,10 +41,26 @@ QColor opaque(Color color, const QPalette& palette) {
         return role(palette, QPalette::WindowText);
     case Color::SecondaryLabel:
         return mixed(role(palette, QPalette::WindowText), role(palette, QPalette::Window), 0.3);
+    case Color::QuaternaryLabel:
+        return faded(role(palette, QPalette::WindowText), 0.1);
     case Color::Separator:
         return faded(role(palette, QPalette::WindowText), dark ? 0.24 : 0.25);
     case Color::Accent:
         return role(palette, QPalette::Highlight);
+    case Color::OnAccent:
+        return role(palette, QPalette::HighlightedText);
+    case Color::ControlFace:
+        return mixed(role(palette, QPalette::Base), Qt::white, dark ? 0.22 : 1);
+    case Color::ControlTrack:
+        return faded(role(palette, QPalette::WindowText), dark ? 0.22 : 0.16);
+    case Color::ControlKnob:
+        return dark ? QColor(0xffe8e8e8) : QColor(Qt::white);
+    case Color::ControlBorder:
+        return faded(role(palette, QPalette::WindowText), dark ? 0.3 : 0.28);
+    case Color::SectionBackground:
+        return mixed(role(palette, QPalette::Window), Qt::white, dark ? 0.05 : 0.55);
+    case Color::TextBackground:
+        return role(palette, QPalette::Base);
     case Color::ControlBackground:
         return role(palette, QPalette::Base);
     case Color::WindowBackground:

@@ -13,9 +13,23 @@ enum class Color {
     Clear,
     Label,
     SecondaryLabel,
+    QuaternaryLabel,
     Separator,
     Accent,
+    /// Text and symbols on the accent colour.
+    OnAccent,
     ControlBackground,
+    /// Bordered buttons and the chosen tab.
+    ControlFace,
+    /// The groove of a slider, a switch that is off, the strip behind tabs.
+    ControlTrack,
+    /// The knob of a slider or a switch.
+    ControlKnob,
+    /// The outline of a control.
+    ControlBorder,
+    /// The card behind the rows of a section.
+    SectionBackground,
+    TextBackground,
     WindowBackground,
     HudMaterial,
     PopoverMaterial,

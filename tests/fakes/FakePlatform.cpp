@@ -1,5 +1,8 @@
 #include "fakes/FakePlatform.h"
 
+#include "platform/qt/QtKeyPresses.h"
+
+#include <QKeyEvent>
 #include <QMenu>
 #include <QWidget>
 
@@ -222,6 +225,12 @@ FakePlatform::FakePlatform()
     , statusItem(put<FakeStatusItem>(platform.statusItem))
     , alerts(put<FakeAlerts>(platform.alerts))
     , updater(put<FakeUpdater>(platform.updater))
-    , current_(platform) {}
+    , current_(platform) {
+    platform.keyPresses = std::make_unique<::platform::QtKeyPresses>(
+        [this](const QKeyEvent& event) -> std::optional<::platform::KeyCode> {
+            const auto found = keyPositions.find(event.nativeScanCode());
+            return found != keyPositions.end() ? std::optional(found->second) : std::nullopt;
+        });
+}
 
 } // namespace fakes

@@ -255,6 +255,8 @@ public:
     FakeApplicationIcons& applicationIcons;
     FakeAccessibility& accessibility;
     FakeKeyboardEvents& keyboardEvents;
+    /// What the key of an event is, by its scan code.
+    std::map<quint32, platform::KeyCode> keyPositions;
     FakeGlobalKeyMonitor& globalKeyMonitor;
     FakePointerMonitor& pointerMonitor;
     FakeColorPanel& colorPanel;

@@ -14,6 +14,7 @@
 #include "platform/linux/freedesktop/StatusNotifierHost.h"
 #include "platform/linux/freedesktop/StatusNotifierStatusItem.h"
 #include "platform/linux/freedesktop/XdgAutostartLoginItem.h"
+#include "platform/linux/keyboard/VirtualKeyCodes.h"
 #include "platform/linux/x11/EwmhWindows.h"
 #include "platform/linux/x11/EwmhWorkspace.h"
 #include "platform/linux/x11/X11Screens.h"
@@ -26,15 +27,18 @@
 #include "platform/qt/DrawnSymbols.h"
 #include "platform/qt/QtAlerts.h"
 #include "platform/qt/QtColorPanel.h"
+#include "platform/qt/QtKeyPresses.h"
 #include "platform/qt/QtRunLoop.h"
 #include "platform/qt/ThemeApplicationIcons.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QWindow>
 
 #include <csignal>
+#include <limits>
 
 namespace platform {
 
@@ -66,6 +70,14 @@ void setWindowClass(const QString& windowClass) {
     QCoreApplication::setApplicationName(windowClass);
     QWindow().create();
     QCoreApplication::setApplicationName(name);
+}
+
+/// The scan code of an event of the window system; none for one that a program made up.
+std::optional<KeyCode> positionOf(const QKeyEvent& event) {
+    const quint32 code = event.nativeScanCode();
+    return code > 0 && code <= std::numeric_limits<ScanCode>::max()
+               ? virtualKeyCode(static_cast<ScanCode>(code))
+               : std::nullopt;
 }
 
 void logWhatIsMissing(Foundation& foundation) {
@@ -132,6 +144,9 @@ std::unique_ptr<Platform> makePlatform(std::unique_ptr<ProgramInstance> programI
     platform->accessibility = std::make_unique<AtSpiAccessibility>(shared.windows, shared.session);
     platform->keyboardEvents = std::make_unique<XTestKeyboardEvents>(
         *shared.connection, *platform->runLoop, shared.ownKeyStrokes);
+    platform->keyPresses = std::make_unique<QtKeyPresses>([](const QKeyEvent& event) {
+        return positionOf(event);
+    });
     platform->globalKeyMonitor =
         std::make_unique<XInputKeyMonitor>(*shared.connection, shared.inputEvents, [] {
             return QGuiApplication::focusWindow() != nullptr;

@@ -1,8 +1,8 @@
 #include "ui/Label.h"
 
 #include "platform/Platform.h"
+#include "ui/LabelOpacity.h"
 
-#include <QAbstractButton>
 #include <QLinearGradient>
 #include <QPainter>
 
@@ -11,20 +11,6 @@
 namespace ui {
 
 namespace {
-
-/// A label pales while the button around it is held down, and more so while it cannot be used.
-double opacity(const QWidget& label) {
-    if (!label.isEnabled()) {
-        return 0.4;
-    }
-    for (const QWidget* widget = &label; widget != nullptr; widget = widget->parentWidget()) {
-        const auto* button = dynamic_cast<const QAbstractButton*>(widget);
-        if (button != nullptr && button->isDown()) {
-            return 0.6;
-        }
-    }
-    return 1;
-}
 
 /// Draws one system symbol in the middle of itself.
 class Symbol final : public QWidget {
@@ -45,7 +31,7 @@ protected:
             return;
         }
         QPainter painter(this);
-        painter.setOpacity(opacity(*this));
+        painter.setOpacity(labelOpacity(*this));
         const QSizeF size = shape.deviceIndependentSize();
         const QPointF corner((width() - size.width()) / 2, (height() - size.height()) / 2);
         painter.drawImage(onDevicePixels(painter, corner), tinted(shape));
@@ -99,44 +85,10 @@ private:
     SymbolOptions options_;
 };
 
-/// Draws one line of text in the middle of itself.
-class Text final : public QWidget {
-public:
-    Text(QString text, TextOptions options)
-        : text_(std::move(text))
-        , color_(options.color) {
-        setFont(ui::font(options.pointSize, options.weight));
-        setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-        setAttribute(Qt::WA_TransparentForMouseEvents);
-        setAccessibleName(text_);
-    }
-
-    QSize sizeHint() const override {
-        const QFontMetrics metrics = fontMetrics();
-        return {metrics.horizontalAdvance(text_), metrics.height()};
-    }
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        painter.setOpacity(opacity(*this));
-        painter.setPen(color({color_}, palette()));
-        painter.drawText(rect(), Qt::AlignCenter | Qt::TextDontClip, text_);
-    }
-
-private:
-    QString text_;
-    Color color_;
-};
-
 } // namespace
 
 Element symbol(const QString& name, SymbolOptions options) {
     return Element(std::make_unique<Symbol>(name, std::move(options)));
-}
-
-Element text(const QString& text, TextOptions options) {
-    return Element(std::make_unique<Text>(text, options));
 }
 
 } // namespace ui

@@ -1,0 +1,169 @@
+#include "ui/LazyList.h"
+
+#include "ui/AccessibleRole.h"
+#include "ui/FocusRing.h"
+#include "ui/RoundedRectangle.h"
+#include "ui/ScrollBar.h"
+#include "ui/Theme.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace ui {
+
+namespace {
+
+constexpr RoundedRectangle shape{6};
+
+} // namespace
+
+LazyList::LazyList(int rowHeight)
+    : rowHeight_(rowHeight) {
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::StrongFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBar(std::make_unique<ScrollBar>().release());
+    verticalScrollBar()->setSingleStep(rowHeight);
+    setViewportMargins(1, 1, 1, 1);
+    viewport()->setAutoFillBackground(false);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setAccessibleRole(*viewport(), QAccessible::List);
+    FocusRing::attach(*this, [this] {
+        return FocusRing::Shape{QRectF(rect()), shape.cornerRadius};
+    });
+}
+
+void LazyList::setRows(Rows rows) {
+    for (const auto& [index, row] : std::exchange(visible_, {})) {
+        row->deleteLater();
+        row->hide();
+    }
+    rows_ = std::move(rows);
+    current_ = 0;
+    updateRange();
+    verticalScrollBar()->setValue(0);
+    layOut();
+}
+
+QWidget* LazyList::row(int index) const {
+    const auto found = visible_.find(index);
+    return found != visible_.end() ? found->second : nullptr;
+}
+
+bool LazyList::event(QEvent* event) {
+    // What the viewport draws comes here as well; the border is the list's own.
+    if (event->type() == QEvent::Paint) {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.fillPath(shape.path(rect()), color({Color::TextBackground}, palette()));
+        const RoundedRectangle outline{shape.cornerRadius - 0.5};
+        painter.strokePath(outline.path(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5)),
+                           QPen(color({Color::ControlBorder}, palette()), 1));
+    }
+    return QAbstractScrollArea::event(event);
+}
+
+void LazyList::focusInEvent(QFocusEvent*) {
+    viewport()->update();
+}
+
+void LazyList::focusOutEvent(QFocusEvent*) {
+    viewport()->update();
+}
+
+void LazyList::keyPressEvent(QKeyEvent* event) {
+    const int page = std::max(1, viewport()->height() / rowHeight_ - 1);
+    switch (event->key()) {
+    case Qt::Key_Down:
+        return setCurrent(current_ + 1);
+    case Qt::Key_Up:
+        return setCurrent(current_ - 1);
+    case Qt::Key_PageDown:
+        return setCurrent(current_ + page);
+    case Qt::Key_PageUp:
+        return setCurrent(current_ - page);
+    case Qt::Key_Home:
+        return setCurrent(0);
+    case Qt::Key_End:
+        return setCurrent(rows_.count - 1);
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (current_ < rows_.count) {
+            rows_.activate(current_);
+        }
+        return;
+    default:
+        QAbstractScrollArea::keyPressEvent(event);
+    }
+}
+
+void LazyList::paintEvent(QPaintEvent*) {
+    QPainter painter(viewport());
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (hasFocus() && current_ < rows_.count) {
+        const QRectF row(4, current_ * rowHeight_ - verticalScrollBar()->value() + 1,
+                         viewport()->width() - 8, rowHeight_ - 2);
+        painter.fillPath(shape.path(row), color({Color::Accent, 0.16}, palette()));
+    }
+}
+
+void LazyList::resizeEvent(QResizeEvent*) {
+    updateRange();
+    layOut();
+}
+
+void LazyList::scrollContentsBy(int, int) {
+    layOut();
+    viewport()->update();
+}
+
+void LazyList::layOut() {
+    const int top = verticalScrollBar()->value();
+    const int first = std::max(0, top / rowHeight_);
+    const int last = std::min(rows_.count - 1, (top + viewport()->height() - 1) / rowHeight_);
+    std::erase_if(visible_, [&](const auto& entry) {
+        const bool gone = entry.first < first || entry.first > last;
+        if (gone) {
+            entry.second->hide();
+            entry.second->deleteLater(); // it may be in the middle of handling an event
+        }
+        return gone;
+    });
+    for (int index = first; index <= last; ++index) {
+        QWidget*& row = visible_[index];
+        if (row == nullptr) {
+            row = rows_.make(index).take().release();
+            row->setAccessibleName(rows_.name(index));
+            setAccessibleRole(*row, QAccessible::ListItem);
+            row->setParent(viewport());
+            place(index, *row);
+            row->show();
+        } else {
+            place(index, *row);
+        }
+    }
+}
+
+void LazyList::place(int index, QWidget& row) const {
+    row.setGeometry(0, index * rowHeight_ - verticalScrollBar()->value(), viewport()->width(),
+                    rowHeight_);
+}
+
+void LazyList::setCurrent(int index) {
+    current_ = std::clamp(index, 0, std::max(0, rows_.count - 1));
+    const int top = current_ * rowHeight_;
+    QScrollBar& bar = *verticalScrollBar();
+    bar.setValue(std::clamp(bar.value(), top + rowHeight_ - viewport()->height(), top));
+    viewport()->update();
+}
+
+void LazyList::updateRange() {
+    const int hidden = rows_.count * rowHeight_ - viewport()->height();
+    verticalScrollBar()->setRange(0, std::max(0, hidden));
+    verticalScrollBar()->setPageStep(viewport()->height());
+}
+
+} // namespace ui

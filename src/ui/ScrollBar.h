@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QScrollBar>
+
+namespace ui {
+
+/// A thin vertical indicator of what part of a page is visible; it can be dragged.
+class ScrollBar final : public QScrollBar {
+public:
+    ScrollBar();
+
+    QSize sizeHint() const override;
+
+protected:
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace ui

@@ -1,0 +1,53 @@
+#include "ui/TextEditor.h"
+
+#include "ui/ScrollBar.h"
+#include "ui/Theme.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QPlainTextEdit>
+#include <QScopedValueRollback>
+
+namespace ui {
+
+namespace {
+
+constexpr int margin = 4;
+
+class Editor final : public QPlainTextEdit {
+public:
+    Editor(Binding<QString> text, const TextEditorOptions& options) {
+        setFont(ui::font(13, Weight::Regular));
+        setFrameShape(QFrame::NoFrame);
+        setTabChangesFocus(true);
+        setMinimumHeight(options.minimumHeight);
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+        setAccessibleName(options.accessibilityLabel);
+        setVerticalScrollBar(std::make_unique<ScrollBar>().release());
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        document()->setDocumentMargin(margin);
+        setPlainText(text->get());
+        connect(this, &QPlainTextEdit::textChanged, this, [this, text] {
+            const QScopedValueRollback own(isOwnEdit_, true);
+            text->set(toPlainText());
+        });
+        keep(*this, std::pair(text, text->observe([this](const QString& next) {
+            if (!isOwnEdit_) {
+                setPlainText(next);
+            }
+        })));
+    }
+
+    QSize sizeHint() const override { return {200, minimumHeight()}; }
+
+private:
+    bool isOwnEdit_ = false;
+};
+
+} // namespace
+
+Element textEditor(Binding<QString> text, const TextEditorOptions& options) {
+    return Element(std::make_unique<Editor>(std::move(text), options));
+}
+
+} // namespace ui

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "ui/Binding.h"
+#include "ui/Element.h"
+
+namespace ui {
+
+struct TextEditorOptions {
+    int minimumHeight = 0;
+    QString accessibilityLabel;
+};
+
+/// Several lines of plain text that the user can edit. Tab leaves it.
+Element textEditor(Binding<QString> text, const TextEditorOptions& options);
+
+} // namespace ui

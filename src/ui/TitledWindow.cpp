@@ -1,0 +1,47 @@
+#include "ui/TitledWindow.h"
+
+#include "ui/Theme.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QVBoxLayout>
+
+namespace ui {
+
+TitledWindow::TitledWindow(const QString& title, QSize contentSize)
+    : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                           Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint) {
+    setWindowTitle(title);
+    setFixedSize(contentSize);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+}
+
+void TitledWindow::setContent(Element content) {
+    auto widget = content.take();
+    delete std::exchange(content_, widget.get());
+    layout()->addWidget(widget.release());
+}
+
+bool TitledWindow::event(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange) {
+        update();
+    }
+    return QWidget::event(event);
+}
+
+void TitledWindow::paintEvent(QPaintEvent*) {
+    QPainter(this).fillRect(rect(), color({Color::WindowBackground}, palette()));
+}
+
+void TitledWindow::showEvent(QShowEvent* event) {
+    if (!centred_) {
+        centred_ = true;
+        const QRect available = screen()->availableGeometry();
+        move(available.center() - QPoint(width() / 2, height() / 2));
+    }
+    QWidget::showEvent(event);
+}
+
+} // namespace ui
