@@ -134,8 +134,9 @@ class Session:
 
     def _start_x_server(self, width, height, monitors):
         reading, writing = os.pipe()
-        self.start(["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{width}x{height}x24",
-                    "-dpi", "96", "-nolisten", "tcp", "-noreset"], pass_fds=[writing])
+        self.x_server = self.start(["Xvfb", "-displayfd", str(writing), "-screen", "0",
+                                    f"{width}x{height}x24", "-dpi", "96", "-nolisten", "tcp",
+                                    "-noreset"], pass_fds=[writing])
         os.close(writing)
         number = _read_line(reading, 10.0, "the X server is up")
         self.environment["DISPLAY"] = f":{number}"
@@ -150,8 +151,9 @@ class Session:
         reading, writing = os.pipe()
         # A short path: the address of a socket has little room.
         address = f"unix:path={self.runtime_folder}/bus"
-        self.start(["dbus-daemon", "--session", "--nofork", "--nopidfile", f"--address={address}",
-                    f"--print-address={writing}"], pass_fds=[writing])
+        self.bus_daemon = self.start(
+            ["dbus-daemon", "--session", "--nofork", "--nopidfile", f"--address={address}",
+             f"--print-address={writing}"], pass_fds=[writing])
         os.close(writing)
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = _read_line(reading, 10.0, "the bus is up")
         self.bus = Gio.DBusConnection.new_for_address_sync(

@@ -1,6 +1,5 @@
-"""The menu of the icon, as a desktop's tray reads it over D-Bus; the ways to end the program."""
+"""The menu of the icon, as a desktop's tray reads it over D-Bus."""
 
-import signal
 import unittest
 
 import wait
@@ -49,12 +48,6 @@ class MenuTest(DesktopCase):
         self.assertEqual(program.wait_for_end(), 0)
         self.assertEqual(self.windows.floating_of(program.pid), [])
         wait.until(lambda: not self.tray.items_of(program.pid), 3.0, "the icon is gone")
-
-    def test_the_signals_of_a_session_that_ends_quit_it(self):
-        for number in (signal.SIGTERM, signal.SIGINT):
-            program = self.start_program()
-            program.process.send_signal(number)
-            self.assertEqual(program.wait_for_end(), 0, number.name)
 
     def test_checking_accessibility_says_that_it_is_granted(self):
         program = self.start_program()

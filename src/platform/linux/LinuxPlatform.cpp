@@ -7,6 +7,7 @@
 #include "platform/linux/TerminationSignals.h"
 #include "platform/linux/atspi/AtSpiAccessibility.h"
 #include "platform/linux/freedesktop/ApplicationFolders.h"
+#include "platform/linux/freedesktop/BusLoss.h"
 #include "platform/linux/freedesktop/DesktopApplicationBundles.h"
 #include "platform/linux/freedesktop/DesktopEntryIndex.h"
 #include "platform/linux/freedesktop/JsonUserDefaults.h"
@@ -38,6 +39,7 @@
 #include <QWindow>
 
 #include <csignal>
+#include <cstdlib>
 #include <limits>
 
 namespace platform {
@@ -53,6 +55,12 @@ struct Foundation {
 
     TerminationSignals terminationSignals;
     QDBusConnection session = QDBusConnection::sessionBus();
+    // Nothing of what the bus gave could be had again. The toolkit itself ends the program, with a
+    // line, when the X server goes.
+    BusLoss sessionLoss{session, [] {
+                            core::log(u"the session bus is gone");
+                            QCoreApplication::exit(EXIT_FAILURE);
+                        }};
     std::shared_ptr<XcbConnection> connection;
     EwmhWindows windows{connection};
     DesktopEntryIndex desktopEntries;
@@ -144,9 +152,8 @@ std::unique_ptr<Platform> makePlatform(std::unique_ptr<ProgramInstance> programI
     platform->accessibility = std::make_unique<AtSpiAccessibility>(shared.windows, shared.session);
     platform->keyboardEvents = std::make_unique<XTestKeyboardEvents>(
         *shared.connection, *platform->runLoop, shared.ownKeyStrokes);
-    platform->keyPresses = std::make_unique<QtKeyPresses>([](const QKeyEvent& event) {
-        return positionOf(event);
-    });
+    platform->keyPresses =
+        std::make_unique<QtKeyPresses>([](const QKeyEvent& event) { return positionOf(event); });
     platform->globalKeyMonitor =
         std::make_unique<XInputKeyMonitor>(*shared.connection, shared.inputEvents, [] {
             return QGuiApplication::focusWindow() != nullptr;

@@ -29,6 +29,12 @@ void install(void (*handler)(int), int flags) {
     action.sa_flags = flags;
     sigaction(SIGTERM, &action, nullptr);
     sigaction(SIGINT, &action, nullptr);
+    struct sigaction inherited {};
+    sigaction(SIGHUP, nullptr, &inherited);
+    // Whoever starts a program with nohup wants it to outlive the terminal.
+    if (inherited.sa_handler != SIG_IGN) {
+        sigaction(SIGHUP, &action, nullptr);
+    }
 }
 
 int makeEventDescriptor() {

@@ -4,8 +4,9 @@
 
 namespace platform {
 
-/// Lets SIGTERM and SIGINT end the program the way its Quit entry does. A second signal ends it at
-/// once. At most one object of this class exists; needs the application object.
+/// Lets SIGTERM, SIGINT and SIGHUP end the program the way its Quit entry does. A second signal of
+/// the same kind ends it at once. At most one object of this class exists; needs the application
+/// object.
 class TerminationSignals {
 public:
     TerminationSignals();

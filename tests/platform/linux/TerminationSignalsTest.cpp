@@ -5,9 +5,10 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <cstdlib>
 
 TEST(TerminationSignals, EndTheEventLoopLikeQuit) {
-    for (const int signal : {SIGTERM, SIGINT}) {
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
         const platform::TerminationSignals signals;
         bool toldToQuit = false;
         QObject context;
@@ -27,4 +28,16 @@ TEST(TerminationSignals, TheSecondSignalEndsTheProcessAtOnce) {
             std::raise(SIGTERM);
         },
         testing::KilledBySignal(SIGTERM), "");
+}
+
+TEST(TerminationSignals, AHangUpThatTheStarterIgnoresStaysIgnored) {
+    EXPECT_EXIT(
+        {
+            std::signal(SIGHUP, SIG_IGN);
+            const platform::TerminationSignals signals;
+            std::raise(SIGHUP);
+            std::raise(SIGHUP);
+            std::_Exit(7);
+        },
+        testing::ExitedWithCode(7), "");
 }

@@ -1,0 +1,108 @@
+"""Endings that nobody chose in the menu: signals, and servers that go away."""
+
+import signal
+import time
+import unittest
+
+import wait
+from case import DesktopCase, EXECUTABLE
+from desktop import Desktop
+from gnote import Gnote
+from program import Program
+from tray import Tray
+
+SIGNALS = (signal.SIGTERM, signal.SIGINT, signal.SIGHUP)
+
+
+class SignalTest(DesktopCase):
+    """After each, the program is gone with status 0, no window of it is left, no key is down."""
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.note = Gnote(cls.desktop, "Signals", "Only a few words.")
+
+    def start_with_bar(self):
+        self.desktop.put_caret(self.note.text, 0)
+        program = self.start_program(settings={"appearanceDelay": 0})
+        self.desktop.select(self.note.text, "few")
+        program.wait_for_bar()
+        return program
+
+    def assert_ended(self, program):
+        self.assertEqual(program.wait_for_end(), 0)
+        self.assertEqual(self.windows.floating_of(program.pid), [])
+        wait.until(lambda: not self.tray.items_of(program.pid), 3.0, "the icon is gone")
+        self.assertEqual(program.output(), [])
+
+    def test_each_ends_it_while_the_bar_is_up(self):
+        for number in SIGNALS:
+            with self.subTest(number.name):
+                program = self.start_with_bar()
+                program.process.send_signal(number)
+                self.assert_ended(program)
+
+    def test_each_ends_it_while_it_posts_a_shortcut_and_no_key_stays_down(self):
+        """The click is followed by 0.1 s of waiting, then the chord."""
+        for number, moment in zip(SIGNALS, (0.02, 0.1, 0.12)):
+            with self.subTest(number.name):
+                program = self.start_with_bar()
+                program.click("Bold")
+                time.sleep(moment)
+                program.process.send_signal(number)
+                self.assert_ended(program)
+                self.assertEqual(self.hands.down(), [])
+
+    def test_it_ends_while_it_waits_for_a_modifier_to_be_released(self):
+        program = self.start_with_bar()
+        self.hands.hold("Shift_L")
+        try:
+            program.click("Bold")
+            time.sleep(0.3)
+            program.process.send_signal(signal.SIGHUP)
+            self.assertEqual(program.wait_for_end(), 0)
+        finally:
+            self.hands.release("Shift_L")
+
+    def test_it_ends_while_a_window_of_its_own_waits_for_the_user(self):
+        for entry in ("Check Accessibility...", "Settings..."):
+            with self.subTest(entry):
+                program = self.start_program()
+                program.wait_for_icon(self.tray).choose(entry)
+                wait.until(lambda: self.windows.client_of(program.pid), 3.0, "the window is there")
+                program.process.send_signal(signal.SIGTERM)
+                self.assert_ended(program)
+
+
+class LostServerTest(unittest.TestCase):
+    """A server goes, and takes half the desktop along: nothing but the program is asked here."""
+
+    def setUp(self):
+        self.desktop = Desktop()
+        self.addCleanup(self.desktop.close)
+        tray = Tray(self.desktop.session)
+        self.addCleanup(tray.close)
+        note = Gnote(self.desktop, "Losses", "Only a few words.")
+        self.program = Program(self.desktop, EXECUTABLE)
+        self.program.wait_for_icon(tray)
+        self.desktop.select(note.text, "few")
+        self.program.wait_for_bar()
+
+    def assert_ended_with_one_line(self):
+        self.assertEqual(self.program.wait_for_end(), 1)
+        lines = self.program.output() + self.program.complaints()
+        self.assertEqual(len(lines), 1, lines)
+        return lines[0]
+
+    def test_without_its_x_server_it_ends_with_one_line(self):
+        self.desktop.session.x_server.kill()
+        self.assertIn("X11", self.assert_ended_with_one_line())
+
+    def test_without_its_session_bus_it_ends_with_one_line_and_without_its_bar(self):
+        self.desktop.session.bus_daemon.kill()
+        self.assertEqual(self.assert_ended_with_one_line(), "Quillet: the session bus is gone")
+        self.assertEqual(self.desktop.windows.floating_of(self.program.pid), [])
+
+
+if __name__ == "__main__":
+    unittest.main()
