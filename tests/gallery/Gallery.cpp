@@ -1,0 +1,13 @@
+#include "gallery/Gallery.h"
+
+namespace gallery {
+
+std::vector<Entry> entries() {
+    std::vector<Entry> all;
+    for (const auto& feature : {barEntries(), settingsEntries(), symbolEntries()}) {
+        all.insert(all.end(), feature.begin(), feature.end());
+    }
+    return all;
+}
+
+} // namespace gallery
