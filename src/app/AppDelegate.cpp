@@ -4,6 +4,7 @@
 #include "bar/FormattingBarController.h"
 #include "core/Log.h"
 #include "core/NotificationCenter.h"
+#include "feedback/views/FeedbackSheet.h"
 #include "monitor/NotesAutomation.h"
 #include "monitor/NotesMonitor.h"
 #include "settings/views/SettingsView.h"
@@ -148,7 +149,21 @@ void AppDelegate::checkForUpdates() {
     updaterController_.checkForUpdates();
 }
 
-void AppDelegate::openFeedback(const platform::ActivationToken&) {}
+void AppDelegate::openFeedback(const platform::ActivationToken& token) {
+    const auto form = feedback::FeedbackForm::make(
+        platform_, {.herkunft = QStringLiteral("Corvane Quillet – Hauptfenster"),
+                    .onClose = [self = QPointer(this)] {
+                        if (self && self->feedbackWindow_) {
+                            self->feedbackWindow_->hide();
+                        }
+                    }});
+    if (!feedbackWindow_) {
+        feedbackWindow_ = std::make_unique<ui::TitledWindow>(QStringLiteral("Feedback senden"),
+                                                             QSize(540, 540));
+    }
+    feedbackWindow_->setContent(feedback::FeedbackSheet{form});
+    platform_.windowServer->bringToFront(*feedbackWindow_, token);
+}
 
 void AppDelegate::obey(const platform::InstanceRequest& request) {
     using Kind = platform::InstanceRequest::Kind;

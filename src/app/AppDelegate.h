@@ -45,6 +45,8 @@ public:
     bar::FormattingBarController* formattingBar() const { return formattingBar_.get(); }
     /// Null before the settings were first opened.
     ui::TitledWindow* settingsWindow() const { return settingsWindow_.get(); }
+    /// Null before the feedback form was first opened.
+    ui::TitledWindow* feedbackWindow() const { return feedbackWindow_.get(); }
 
 private:
     void setupMenuBar();
@@ -64,6 +66,7 @@ private:
     std::unique_ptr<bar::FormattingBarController> formattingBar_;
     std::unique_ptr<monitor::NotesMonitor> notesMonitor_;
     std::unique_ptr<ui::TitledWindow> settingsWindow_;
+    std::unique_ptr<ui::TitledWindow> feedbackWindow_;
 };
 
 } // namespace app

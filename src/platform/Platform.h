@@ -12,6 +12,7 @@
 #include "platform/PointerMonitor.h"
 #include "platform/ProgramInstance.h"
 #include "platform/RunLoop.h"
+#include "platform/ScreenCapture.h"
 #include "platform/Screens.h"
 #include "platform/StatusItem.h"
 #include "platform/Symbols.h"
@@ -36,6 +37,7 @@ struct Platform {
     std::unique_ptr<UserDefaults> userDefaults;
     std::unique_ptr<LoginItem> loginItem;
     std::unique_ptr<Screens> screens;
+    std::unique_ptr<ScreenCapture> screenCapture;
     std::unique_ptr<Symbols> symbols;
     std::unique_ptr<WindowServer> windowServer;
     std::unique_ptr<Workspace> workspace;

@@ -1,5 +1,6 @@
 #include "ui/TextEditor.h"
 
+#include "ui/FocusRing.h"
 #include "ui/ScrollBar.h"
 #include "ui/Theme.h"
 
@@ -21,6 +22,9 @@ public:
         setFrameShape(QFrame::NoFrame);
         setTabChangesFocus(true);
         setMinimumHeight(options.minimumHeight);
+        // Room for a border.
+        setViewportMargins(1, 1, 1, 1);
+        FocusRing::attach(*this, [this] { return FocusRing::Shape{QRectF(rect()), 0}; });
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
         setAccessibleName(options.accessibilityLabel);
         setVerticalScrollBar(std::make_unique<ScrollBar>().release());

@@ -136,6 +136,19 @@ struct FakeScreens final : platform::Screens {
     platform::Point pointerLocation() override { return pointer; }
 };
 
+struct FakeScreenCapture final : platform::ScreenCapture {
+    std::int64_t keyWindow = 0;
+    QImage picture;
+    /// The window of each picture that was taken.
+    std::vector<std::uint32_t> taken;
+
+    std::int64_t keyWindowNumber() override { return keyWindow; }
+    QImage pictureBelow(std::uint32_t window) override {
+        taken.push_back(window);
+        return picture;
+    }
+};
+
 struct FakeUserDefaults final : platform::UserDefaults {
     std::map<QString, platform::DefaultsValue> values;
     /// The key of each write, in order.
@@ -248,6 +261,7 @@ public:
     FakeUserDefaults& userDefaults;
     FakeLoginItem& loginItem;
     FakeScreens& screens;
+    FakeScreenCapture& screenCapture;
     FakeSymbols& symbols;
     FakeWindowServer& windowServer;
     FakeWorkspace& workspace;

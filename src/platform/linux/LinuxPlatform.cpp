@@ -20,6 +20,7 @@
 #include "platform/linux/x11/EwmhWorkspace.h"
 #include "platform/linux/x11/X11Screens.h"
 #include "platform/linux/x11/X11WindowServer.h"
+#include "platform/linux/x11/XCompositeScreenCapture.h"
 #include "platform/linux/x11/XEmbedTray.h"
 #include "platform/linux/x11/XInputEvents.h"
 #include "platform/linux/x11/XInputKeyMonitor.h"
@@ -142,6 +143,7 @@ std::unique_ptr<Platform> makePlatform(std::unique_ptr<ProgramInstance> programI
     platform->loginItem = std::make_unique<XdgAutostartLoginItem>(
         XdgAutostartLoginItem::defaultPath(), QCoreApplication::applicationFilePath());
     platform->screens = std::make_unique<X11Screens>(shared.windows);
+    platform->screenCapture = std::make_unique<XCompositeScreenCapture>();
     platform->symbols = std::make_unique<DrawnSymbols>();
     platform->windowServer = std::make_unique<X11WindowServer>(shared.connection);
     platform->workspace = std::make_unique<EwmhWorkspace>(

@@ -27,19 +27,21 @@ XcbDisplay::Opened XcbDisplay::openConnection() {
     return opened;
 }
 
-std::unique_ptr<XcbDisplay> XcbDisplay::connect() {
+std::unique_ptr<XcbDisplay> XcbDisplay::connect(std::chrono::milliseconds limit) {
     const Opened opened = openConnection();
     if (opened.connection == nullptr) {
         return nullptr;
     }
     return std::unique_ptr<XcbDisplay>(
-        new XcbDisplay(opened.connection, opened.screenNumber, opened.screen));
+        new XcbDisplay(opened.connection, opened.screenNumber, opened.screen, limit));
 }
 
-XcbDisplay::XcbDisplay(xcb_connection_t* connection, int screenNumber, xcb_screen_t* screen)
+XcbDisplay::XcbDisplay(xcb_connection_t* connection, int screenNumber, xcb_screen_t* screen,
+                       std::chrono::milliseconds limit)
     : connection_(connection)
     , screenNumber_(screenNumber)
-    , screen_(screen) {}
+    , screen_(screen)
+    , limit_(limit) {}
 
 XcbDisplay::~XcbDisplay() {
     xcb_disconnect(connection_);
@@ -69,7 +71,7 @@ XcbPointer<xcb_generic_event_t> XcbDisplay::nextEvent() {
 
 void* XcbDisplay::awaitReply(unsigned int sequence) {
     const auto now = std::chrono::steady_clock::now();
-    const auto deadline = now < silentUntil_ ? now : now + answerLimit;
+    const auto deadline = now < silentUntil_ ? now : now + limit_;
     xcb_flush(connection_);
     for (;;) {
         void* reply = nullptr;

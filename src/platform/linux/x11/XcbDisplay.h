@@ -25,13 +25,13 @@ using XcbPointer = std::unique_ptr<T, FreeMemory>;
 /// One thread at a time.
 class XcbDisplay {
 public:
-    /// How long the server may take for one answer.
+    /// How long the server may take for one answer while the main thread waits.
     static constexpr std::chrono::milliseconds answerLimit{150};
     /// How long a server that did not answer is then not waited for at all.
     static constexpr std::chrono::milliseconds silence{1000};
 
-    /// Null when no server answers under $DISPLAY.
-    static std::unique_ptr<XcbDisplay> connect();
+    /// Null when no server answers under $DISPLAY. `limit` is how long it may take for one answer.
+    static std::unique_ptr<XcbDisplay> connect(std::chrono::milliseconds limit = answerLimit);
 
     virtual ~XcbDisplay();
     XcbDisplay(const XcbDisplay&) = delete;
@@ -58,7 +58,8 @@ public:
     }
 
 protected:
-    XcbDisplay(xcb_connection_t* connection, int screenNumber, xcb_screen_t* screen);
+    XcbDisplay(xcb_connection_t* connection, int screenNumber, xcb_screen_t* screen,
+               std::chrono::milliseconds limit = answerLimit);
 
     /// The next event that has arrived; null when there is none.
     XcbPointer<xcb_generic_event_t> nextEvent();
@@ -80,6 +81,7 @@ private:
     xcb_connection_t* connection_;
     int screenNumber_;
     xcb_screen_t* screen_;
+    std::chrono::milliseconds limit_;
     std::map<std::string, xcb_atom_t, std::less<>> atoms_;
     /// Until then nobody waits again for a server that did not answer in time.
     std::chrono::steady_clock::time_point silentUntil_;
