@@ -8,7 +8,7 @@
 #include "platform/linux/atspi/EventListener.h"
 #include "platform/linux/atspi/FocusFinder.h"
 #include "platform/linux/atspi/SelectionReader.h"
-#include "platform/linux/atspi/SlownessGuard.h"
+#include "platform/SlownessGuard.h"
 #include "platform/linux/atspi/TrustQuestion.h"
 
 #include <QHash>

@@ -1,5 +1,5 @@
 #include "platform/linux/atspi/AtSpiFixture.h"
-#include "platform/linux/atspi/SlownessGuard.h"
+#include "platform/SlownessGuard.h"
 
 #include <QApplication>
 #include <QMessageBox>

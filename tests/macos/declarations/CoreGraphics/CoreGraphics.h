@@ -1,0 +1,69 @@
+#pragma once
+
+#include <CoreFoundation/CoreFoundation.h>
+
+QUILLET_ASSUME_NONNULL_BEGIN
+extern "C" {
+
+// corefoundation/cgfloat, cgpoint, cgsize, cgrect
+using CGFloat = double;
+struct CGPoint {
+    CGFloat x;
+    CGFloat y;
+};
+struct CGSize {
+    CGFloat width;
+    CGFloat height;
+};
+struct CGRect {
+    CGPoint origin;
+    CGSize size;
+};
+
+// coregraphics/cgevent, cgeventsource, cgkeycode
+using CGEventRef = struct __CGEvent*;
+using CGEventSourceRef = struct __CGEventSource*;
+using CGKeyCode = std::uint16_t;
+
+// coregraphics/cgeventflags, and its members maskshift, maskcontrol, maskalternate, maskcommand
+using CGEventFlags = std::uint64_t;
+enum : CGEventFlags {
+    kCGEventFlagMaskShift = 0x00020000,
+    kCGEventFlagMaskControl = 0x00040000,
+    kCGEventFlagMaskAlternate = 0x00080000,
+    kCGEventFlagMaskCommand = 0x00100000,
+};
+
+// coregraphics/cgeventtaplocation
+enum CGEventTapLocation : std::uint32_t {
+    kCGHIDEventTap = 0,
+    kCGSessionEventTap = 1,
+    kCGAnnotatedSessionEventTap = 2,
+};
+
+// coregraphics/cgeventsourcestateid
+enum CGEventSourceStateID : std::int32_t {
+    kCGEventSourceStatePrivate = -1,
+    kCGEventSourceStateCombinedSessionState = 0,
+    kCGEventSourceStateHIDSystemState = 1,
+};
+
+// coregraphics/cgeventsource/init(stateid:)
+CGEventSourceRef _Nullable CGEventSourceCreate(CGEventSourceStateID stateID);
+
+// coregraphics/cgevent/init(keyboardeventsource:virtualkey:keydown:)
+CGEventRef _Nullable CGEventCreateKeyboardEvent(CGEventSourceRef _Nullable source,
+                                                CGKeyCode virtualKey, bool keyDown);
+
+// coregraphics/cgevent/flags
+void CGEventSetFlags(CGEventRef _Nullable event, CGEventFlags flags);
+
+// coregraphics/cgevent/post(tap:)
+void CGEventPost(CGEventTapLocation tap, CGEventRef _Nullable event);
+
+// coregraphics/cgpreflightscreencaptureaccess(), cgrequestscreencaptureaccess()
+bool CGPreflightScreenCaptureAccess() QUILLET_MACOS(10.15);
+bool CGRequestScreenCaptureAccess() QUILLET_MACOS(10.15);
+
+} // extern "C"
+QUILLET_ASSUME_NONNULL_END
