@@ -9,15 +9,23 @@ class QWidget;
 
 namespace platform {
 
+/// Whether a floating window ever has the keyboard.
+enum class KeyboardFocus {
+    /// It never takes the keyboard or a grab, also when it is clicked.
+    Never,
+    /// It takes the keyboard when it is brought to the front, and when it is clicked.
+    WhenInFront,
+};
+
 /// What the window system does with the program's own windows. Main thread only.
 class WindowServer {
 public:
     virtual ~WindowServer() = default;
 
     /// Turns a top-level widget that was not shown yet into a borderless window that floats above
-    /// ordinary ones on every desktop, has a shadow, cannot be moved by the user, and takes
-    /// neither the keyboard nor a grab, also when it is clicked.
-    virtual void makeFloating(QWidget& window) = 0;
+    /// ordinary ones, has a shadow and cannot be moved by the user. One that never has the
+    /// keyboard is on every desktop.
+    virtual void makeFloating(QWidget& window, KeyboardFocus keyboard) = 0;
 
     virtual void setFrame(QWidget& window, const Rect& frame) = 0;
     virtual Rect frame(const QWidget& window) = 0;
@@ -29,8 +37,9 @@ public:
     virtual void orderFront(QWidget& window) = 0;
     virtual void orderOut(QWidget& window) = 0;
 
-    /// Shows an ordinary window in front of all others, whatever application is active, and makes
-    /// it the key window. `token` is what the desktop gave for the user's deed that asked for it.
+    /// Shows a window that may have the keyboard in front of all others, whatever application is
+    /// active, and makes it the key window. `token` is what the desktop gave for the user's deed
+    /// that asked for it.
     virtual void bringToFront(QWidget& window, const ActivationToken& token) = 0;
 
     /// Whether what a window leaves transparent shows what lies below it.

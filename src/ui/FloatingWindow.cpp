@@ -29,15 +29,15 @@ QBitmap solidPart(const QImage& picture) {
 } // namespace
 
 FloatingWindow::FloatingWindow(platform::WindowServer& windowServer, Element contents,
-                               RoundedRectangle shape)
+                               RoundedRectangle shape, platform::KeyboardFocus keyboard)
     : windowServer_(windowServer)
     , contents_(*contents.take().release())
     , clip_(*new CornerClip(shape, *this)) {
     contents_.setParent(this);
     clip_.raise();
     setAttribute(Qt::WA_TranslucentBackground);
-    setAttribute(Qt::WA_AlwaysShowToolTips); // the window is never the active one
-    windowServer_.makeFloating(*this);
+    setAttribute(Qt::WA_AlwaysShowToolTips); // the window need not be the active one
+    windowServer_.makeFloating(*this, keyboard);
 }
 
 void FloatingWindow::setFrame(const platform::Rect& frame) {
@@ -49,12 +49,21 @@ platform::Rect FloatingWindow::frame() const {
 }
 
 void FloatingWindow::orderFront() {
+    prepareToShow();
+    windowServer_.orderFront(*this);
+}
+
+void FloatingWindow::makeKeyAndOrderFront() {
+    prepareToShow();
+    windowServer_.bringToFront(*this, {});
+}
+
+void FloatingWindow::prepareToShow() {
     // A compositor may have come or gone since the last time.
     if (const bool opaque = !windowServer_.hasTranslucency(); opaque || opaque_) {
         opaque ? takeShapeFromContents() : clearMask();
         setOpaque(opaque);
     }
-    windowServer_.orderFront(*this);
 }
 
 void FloatingWindow::orderOut() {

@@ -8,12 +8,13 @@ namespace ui {
 
 class CornerClip;
 
-/// A borderless window of any shape that floats above the others and never has the keyboard. Where
+/// A borderless window of any shape that floats above the others. Where
 /// windows cannot be translucent it is opaque and takes its shape from what it draws.
 class FloatingWindow final : public QWidget {
 public:
     /// The contents always fill the window, whose own corners are cut to `shape`.
-    FloatingWindow(platform::WindowServer& windowServer, Element contents, RoundedRectangle shape);
+    FloatingWindow(platform::WindowServer& windowServer, Element contents, RoundedRectangle shape,
+                   platform::KeyboardFocus keyboard = platform::KeyboardFocus::Never);
 
     /// Global points, origin at the bottom-left corner of the primary screen.
     void setFrame(const platform::Rect& frame);
@@ -21,6 +22,9 @@ public:
 
     /// Shows the window in front of the others without making it the key window.
     void orderFront();
+    /// Shows the window in front of the others and gives it the keyboard, which it must be allowed
+    /// to have.
+    void makeKeyAndOrderFront();
     void orderOut();
 
 protected:
@@ -28,6 +32,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void prepareToShow();
     void takeShapeFromContents();
     void setOpaque(bool opaque);
 

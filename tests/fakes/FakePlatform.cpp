@@ -125,10 +125,11 @@ core::Registration FakeStatusItem::show(const QIcon& icon, const QString& access
     return core::Registration([this] { menu = nullptr; });
 }
 
-void FakeWindowServer::makeFloating(QWidget& window) {
+void FakeWindowServer::makeFloating(QWidget& window, platform::KeyboardFocus keyboard) {
+    const bool never = keyboard == platform::KeyboardFocus::Never;
     window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
-    window.setAttribute(Qt::WA_ShowWithoutActivating);
-    record.emplace_back("make floating");
+    window.setAttribute(Qt::WA_ShowWithoutActivating, never);
+    record.emplace_back(never ? "make floating" : "make floating with the keyboard");
 }
 
 void FakeWindowServer::setFrame(QWidget& window, const platform::Rect& frame) {
@@ -162,6 +163,7 @@ void FakeWindowServer::bringToFront(QWidget& window, const platform::ActivationT
     record.emplace_back("bring to front");
     tokens.push_back(token);
     window.show();
+    window.activateWindow();
 }
 
 core::Registration FakeProgramInstance::setRequestHandler(Handler h) {

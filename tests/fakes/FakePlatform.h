@@ -209,7 +209,7 @@ struct FakeWindowServer final : platform::WindowServer {
     /// One for each call of bringToFront().
     std::vector<platform::ActivationToken> tokens;
 
-    void makeFloating(QWidget& window) override;
+    void makeFloating(QWidget& window, platform::KeyboardFocus keyboard) override;
     void setFrame(QWidget& window, const platform::Rect& frame) override;
     platform::Rect frame(const QWidget& window) override;
     platform::Rect frameOnScreen(const QWidget& part) override;

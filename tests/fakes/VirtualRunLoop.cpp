@@ -49,8 +49,7 @@ core::Registration VirtualRunLoop::scheduleRepeating(platform::Seconds interval,
     return add(interval.count(), {std::move(handler), interval.count(), mode});
 }
 
-core::Registration VirtualRunLoop::scheduleOnce(platform::Seconds delay,
-                                                platform::RunLoopMode mode,
+core::Registration VirtualRunLoop::scheduleOnce(platform::Seconds delay, platform::RunLoopMode mode,
                                                 std::function<void()> handler) {
     return add(delay.count(), {std::move(handler), 0, mode});
 }

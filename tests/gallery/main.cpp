@@ -76,26 +76,13 @@ int main(int argc, char** argv) {
     parser.addOptions({list, dark, scale, text, to});
     parser.addPositionalArgument(QStringLiteral("name"), QStringLiteral("Which views."),
                                  QStringLiteral("[name...]"));
-    const QCommandLineOption help = parser.addHelpOption();
 
     QStringList arguments;
     std::transform(argv, argv + argc, std::back_inserter(arguments),
                    [](const char* argument) { return QString::fromLocal8Bit(argument); });
     const bool understood = parser.parse(arguments);
-    const bool pictures = parser.isSet(to);
-    // Both are read when the application object is made.
-    qputenv("QT_SCALE_FACTOR", parser.value(scale).toLocal8Bit());
-    if (pictures || parser.isSet(list) || parser.isSet(help)) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    const QApplication application(argc, argv);
-    qInstallMessageHandler(countWarnings);
-
-    std::vector<Entry> chosen = gallery::entries();
     const QStringList names = parser.positionalArguments();
-    if (parser.isSet(help)) {
-        parser.showHelp(0);
-    }
+    std::vector<Entry> chosen = gallery::entries();
     if (parser.isSet(list)) {
         std::ranges::for_each(chosen, [](const Entry& e) { std::puts(qPrintable(e.name)); });
         return 0;
@@ -103,13 +90,22 @@ int main(int argc, char** argv) {
     if (!names.isEmpty()) {
         std::erase_if(chosen, [&](const Entry& entry) { return !names.contains(entry.name); });
     }
-    const bool oneToShow = chosen.size() == 1;
-    if (!understood || (!names.isEmpty() && std::ssize(chosen) != names.size()) ||
-        (!pictures && !oneToShow)) {
-        std::fprintf(stderr, "%s\n\nName one view of --list, or several with --to.\n",
-                     qPrintable(parser.errorText()));
+    const bool pictures = parser.isSet(to);
+    const bool known = names.isEmpty() || std::ssize(chosen) == names.size();
+    if (!understood || !known || (!pictures && chosen.size() != 1)) {
+        std::fprintf(stderr, "%s\n%s", qPrintable(parser.errorText()),
+                     qPrintable(parser.helpText()));
+        std::fputs("\nWithout --to, name one view of those that --list lists.\n", stderr);
         return 2;
     }
+
+    // Both are read when the application object is made.
+    qputenv("QT_SCALE_FACTOR", parser.value(scale).toLocal8Bit());
+    if (pictures) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    const QApplication application(argc, argv);
+    qInstallMessageHandler(countWarnings);
     const Appearance appearance = parser.isSet(dark) ? Appearance::Dark : Appearance::Light;
     gallery::setAppearance(appearance);
     if (!pictures) {

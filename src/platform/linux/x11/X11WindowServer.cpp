@@ -97,17 +97,24 @@ void activateAsUser(XcbConnection& connection, xcb_window_t window, xcb_timestam
 X11WindowServer::X11WindowServer(std::shared_ptr<XcbConnection> connection)
     : connection_(std::move(connection)) {}
 
-void X11WindowServer::makeFloating(QWidget& window) {
-    window.setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
-                          Qt::WindowDoesNotAcceptFocus | Qt::X11BypassWindowManagerHint);
-    window.setAttribute(Qt::WA_ShowWithoutActivating);
+void X11WindowServer::makeFloating(QWidget& window, KeyboardFocus keyboard) {
+    Qt::WindowFlags flags = Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint;
     window.setAttribute(Qt::WA_TranslucentBackground);
-    // The window is never active, and tool tips are shown in active windows only.
-    window.setAttribute(Qt::WA_AlwaysShowToolTips);
-    window.setFocusPolicy(Qt::NoFocus);
-    for (auto* child : window.findChildren<QWidget*>()) {
-        child->setFocusPolicy(Qt::NoFocus);
+    switch (keyboard) {
+    case KeyboardFocus::Never:
+        flags |= Qt::WindowDoesNotAcceptFocus | Qt::X11BypassWindowManagerHint;
+        window.setAttribute(Qt::WA_ShowWithoutActivating);
+        // The window is never active, and tool tips are shown in active windows only.
+        window.setAttribute(Qt::WA_AlwaysShowToolTips);
+        window.setFocusPolicy(Qt::NoFocus);
+        for (auto* child : window.findChildren<QWidget*>()) {
+            child->setFocusPolicy(Qt::NoFocus);
+        }
+        break;
+    case KeyboardFocus::WhenInFront:
+        break;
     }
+    window.setWindowFlags(flags);
 }
 
 void X11WindowServer::setFrame(QWidget& window, const Rect& frame) {

@@ -7,13 +7,13 @@
 
 namespace platform {
 
-/// The program's own windows on an X server. A floating window goes past the window manager: it
-/// stands on every desktop and above full screen, and never gets the keyboard.
+/// The program's own windows on an X server. A floating window that never has the
+/// keyboard goes past the window manager: it stands on every desktop and above full screen.
 class X11WindowServer final : public WindowServer {
 public:
     explicit X11WindowServer(std::shared_ptr<XcbConnection> connection);
 
-    void makeFloating(QWidget& window) override;
+    void makeFloating(QWidget& window, KeyboardFocus keyboard) override;
     void setFrame(QWidget& window, const Rect& frame) override;
     Rect frame(const QWidget& window) override;
     Rect frameOnScreen(const QWidget& part) override;

@@ -47,7 +47,7 @@ protected:
     FloatingWindowTest() {
         button.setGeometry(0, 0, 100, 30);
         QObject::connect(&button, &QPushButton::clicked, &button, [this] { ++clicks; });
-        windowServer.makeFloating(bar);
+        windowServer.makeFloating(bar, platform::KeyboardFocus::Never);
     }
 
     PixelRect shownAt() {
@@ -96,6 +96,23 @@ TEST_F(FloatingWindowTest, IsShownAndClickedWithoutTakingTheKeyboard) {
         return shownAt() == windows.pixelGeometry().pixels({60, height - 200, 100, 30});
     }));
     EXPECT_EQ(inputFocus(*applications), focus);
+}
+
+TEST_F(FloatingWindowTest, TakesTheKeyboardWhereItIsPutWhenItMayHaveIt) {
+    QWidget panel;
+    windowServer.makeFloating(panel, platform::KeyboardFocus::WhenInFront);
+    const auto notes = installed({0, 0, 600, 400});
+    ASSERT_TRUE(waitForFrontmost(installedProcess));
+    const Rect frame{70, 90, 160, 120};
+    windowServer.setFrame(panel, frame);
+    windowServer.bringToFront(panel, {});
+    EXPECT_TRUE(eventually([&] { return inputFocus(*applications) == panel.winId(); }));
+    EXPECT_TRUE(eventually([&] {
+        return windows.properties().clientArea(static_cast<xcb_window_t>(panel.winId())) ==
+               windows.pixelGeometry().pixels(frame);
+    }));
+    windowServer.orderOut(panel);
+    EXPECT_TRUE(waitForFrontmost(installedProcess));
 }
 
 TEST_F(FloatingWindowTest, FramesThatAreNoneDoNoHarm) {
