@@ -50,6 +50,15 @@ def with_environment(name, value):
     return found
 
 
+def command_line(pid):
+    """A process's program and arguments; empty when it is gone."""
+    try:
+        with open(f"/proc/{pid}/cmdline", "rb") as line:
+            return line.read().replace(b"\0", b" ").decode(errors="replace")
+    except OSError:
+        return ""
+
+
 def end_all_with_environment(name, value, limit=3.0):
     """Ends what is left of a session."""
     for number in (signal.SIGCONT, signal.SIGTERM):

@@ -34,7 +34,7 @@ class Session:
             self._start_x_server(width, height, monitors)
             self._start_bus()
             if window_manager:
-                self._start_window_manager()
+                self.start_window_manager()
             if accessibility:
                 self._switch_accessibility_on()
         except BaseException:
@@ -99,6 +99,17 @@ class Session:
                                   GLib.VariantType(answer) if answer else None,
                                   Gio.DBusCallFlags.NONE, CALL_LIMIT, None)
 
+    def kill(self, part):
+        """Kills the session's processes whose command line has this part, as a crash would."""
+        victims = [pid for pid in processes.with_environment("XDG_RUNTIME_DIR", self.runtime_folder)
+                   if part in processes.command_line(pid)]
+        if not victims:
+            raise AssertionError(f"nothing with {part} runs")
+        for pid in victims:
+            os.kill(pid, signal.SIGKILL)
+        wait.until(lambda: not any(processes.command_line(pid) for pid in victims), 5.0,
+                   f"{part} is gone")
+
     def files_of_home(self):
         """Every file below the home folder, settings and caches included."""
         return [os.path.join(folder, name)
@@ -162,12 +173,20 @@ class Session:
             | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None, None)
         self.bus.set_exit_on_close(False)
 
-    def _start_window_manager(self):
-        self.start(["openbox", "--sm-disable"])
+    def start_window_manager(self):
+        """Also after an earlier one has ended."""
+        self.window_manager = self.start(["openbox", "--sm-disable"])
         wait.until(self._window_manager_is_there, 10.0, "the window manager is up")
 
     def _window_manager_is_there(self):
-        return "window id" in self.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"])
+        told = self.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"])
+        if "window id" not in told:
+            return False
+        # One that crashed leaves the property behind, with a window that is gone.
+        window = told.split()[-1]
+        return subprocess.run(["xprop", "-id", window], env=self.environment,
+                              stdin=subprocess.DEVNULL, capture_output=True,
+                              timeout=10).returncode == 0
 
     def _switch_accessibility_on(self):
         """Before any application starts: some look only then."""

@@ -92,12 +92,18 @@ class LateTrayTest(DesktopCase):
             self.assertEqual(len(tray.items_of(program.pid)), 1)
             tray.close()
 
-    def test_an_old_tray_embeds_the_icon(self):
-        trayer = self.desktop.session.start(["trayer", "--widthtype", "request"])
-        self.addCleanup(self.desktop.session.end, trayer)
+    def test_an_old_tray_and_the_next_one_embed_the_icon(self):
+        command = ["trayer", "--widthtype", "request"]
+        first = self.desktop.session.start(command)
+        self.addCleanup(self.desktop.session.end, first)
         program = self.start_program()
+        program.wait_until(lambda: self.windows.embedded_of(program.pid), 15.0,
+                           "the icon is embedded")
+        first.kill()
+        trayer = self.desktop.session.start(command)
+        self.addCleanup(self.desktop.session.end, trayer)
         icon = program.wait_until(lambda: self.windows.embedded_of(program.pid), 15.0,
-                                  "the icon is embedded")
+                                  "the icon is embedded in the next one too")
         self.hands.click(*icon.centre, button=RIGHT_BUTTON)
         menu = program.wait_until(
             lambda: [frame for _, frame in self.windows.floating_of(program.pid)], 3.0,

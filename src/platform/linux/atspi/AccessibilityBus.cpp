@@ -34,7 +34,11 @@ QString unusedConnectionName() {
 
 AccessibilityBus::AccessibilityBus(QDBusConnection session)
     : session_(std::move(session))
-    , connection_(QString()) {}
+    , connection_(QString())
+    , launchers_(launcher().service, session_, QDBusServiceWatcher::WatchForRegistration) {
+    QObject::connect(&launchers_, &QDBusServiceWatcher::serviceRegistered, this,
+                     [this] { isSuperseded_ = true; });
+}
 
 AccessibilityBus::~AccessibilityBus() {
     if (!connection_.name().isEmpty()) {
@@ -43,7 +47,7 @@ AccessibilityBus::~AccessibilityBus() {
 }
 
 bool AccessibilityBus::connect(std::chrono::milliseconds timeLimit) {
-    if (isConnected()) {
+    if (isUpToDate()) {
         return true;
     }
     const auto reply = session_.call(
@@ -53,9 +57,15 @@ bool AccessibilityBus::connect(std::chrono::milliseconds timeLimit) {
     if (!address || address->isEmpty()) {
         return false;
     }
+    isSuperseded_ = false;
+    // The address of each bus is unlike all others.
+    if (isConnected() && *address == address_) {
+        return true;
+    }
     if (!connection_.name().isEmpty()) {
         QDBusConnection::disconnectFromBus(connection_.name());
     }
+    address_ = *address;
     connection_ = QDBusConnection::connectToBus(*address, unusedConnectionName());
     if (!isConnected()) {
         return false;

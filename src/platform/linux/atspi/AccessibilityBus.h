@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusServiceWatcher>
 #include <QObject>
 
 #include <chrono>
@@ -18,7 +19,11 @@ public:
 
     bool isConnected() const { return connection_.isConnected(); }
 
-    /// Connects unless connected. The time is that for the session's answer, which may have to
+    /// Connected, and no other bus has been started since: a launcher that crashes leaves its bus
+    /// behind, and whatever starts after it is on the bus of the next launcher.
+    bool isUpToDate() const { return isConnected() && !isSuperseded_; }
+
+    /// Connects unless up to date. The time is that for the session's answer, which may have to
     /// start the accessibility bus first; where it is too short, a later call succeeds.
     bool connect(std::chrono::milliseconds timeLimit);
 
@@ -38,6 +43,9 @@ Q_SIGNALS:
 private:
     QDBusConnection session_;
     QDBusConnection connection_;
+    QString address_;
+    QDBusServiceWatcher launchers_;
+    bool isSuperseded_ = false;
 };
 
 } // namespace platform

@@ -42,6 +42,7 @@ AtSpiAccessibility::AtSpiAccessibility(ApplicationWindows& windows, QDBusConnect
     , events_(bus_) {
     QObject::connect(&bus_, &AccessibilityBus::connected, &context_, [this] {
         // Another bus gives the same names to other applications.
+        found_.reset();
         directory_.clear();
         focusFinder_ = {};
         coordinates_ = {};
@@ -112,17 +113,16 @@ Accessibility::Element AtSpiAccessibility::focusedElement(const Element& applica
 }
 
 bool AtSpiAccessibility::takeUpBus() {
-    if (bus_.isConnected()) {
+    if (bus_.isUpToDate()) {
         return true;
     }
     const auto now = Clock::now();
     if (lastConnectAttempt_ && now - *lastConnectAttempt_ < limits_.reconnectInterval) {
-        return false;
+        return bus_.isConnected();
     }
     lastConnectAttempt_ = now;
-    found_.reset();
     if (!bus_.connect(takeUpLimit)) {
-        return false;
+        return bus_.isConnected();
     }
     // Connecting took its part of the time.
     startInquiry(std::chrono::ceil<std::chrono::milliseconds>(Clock::now() - now));
