@@ -6,7 +6,8 @@
 
 namespace ui {
 
-/// What a widget is to assistive technology, where its class does not say so already.
+/// What a widget is to assistive technology, where its class does not say so already. To be said
+/// before anything else is told of the widget.
 void setAccessibleRole(QWidget& widget, QAccessible::Role role);
 
 /// Whether a list's item is the chosen one; told to assistive technology when it changes.

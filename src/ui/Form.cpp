@@ -1,5 +1,6 @@
 #include "ui/Form.h"
 
+#include "ui/AccessibleRole.h"
 #include "ui/Label.h"
 #include "ui/SectionCard.h"
 
@@ -29,6 +30,7 @@ Element form(std::vector<Element> sections) {
 
 Element section(const QString& title, std::vector<Element> rows) {
     auto widget = std::make_unique<QWidget>();
+    setAccessibleRole(*widget, QAccessible::Grouping);
     widget->setAccessibleName(title);
     auto* layout = new QVBoxLayout(widget.get());
     layout->setContentsMargins(0, 0, 0, 0);

@@ -67,6 +67,7 @@ bool LazyList::event(QEvent* event) {
 
 void LazyList::focusInEvent(QFocusEvent*) {
     viewport()->update();
+    tellCurrent();
 }
 
 void LazyList::focusOutEvent(QFocusEvent*) {
@@ -136,8 +137,8 @@ void LazyList::layOut() {
         QWidget*& row = visible_[index];
         if (row == nullptr) {
             row = rows_.make(index).take().release();
-            row->setAccessibleName(rows_.name(index));
             setAccessibleRole(*row, QAccessible::ListItem);
+            row->setAccessibleName(rows_.name(index));
             row->setParent(viewport());
             place(index, *row);
             row->show();
@@ -158,6 +159,14 @@ void LazyList::setCurrent(int index) {
     QScrollBar& bar = *verticalScrollBar();
     bar.setValue(std::clamp(bar.value(), top + rowHeight_ - viewport()->height(), top));
     viewport()->update();
+    tellCurrent();
+}
+
+void LazyList::tellCurrent() {
+    if (QWidget* current = row(current_); current != nullptr && hasFocus()) {
+        QAccessibleEvent event(current, QAccessible::Focus);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 void LazyList::updateRange() {

@@ -41,6 +41,8 @@ private:
     void layOut();
     void place(int index, QWidget& row) const;
     void setCurrent(int index);
+    /// A screen reader follows the current row as if it had the keyboard itself.
+    void tellCurrent();
     void updateRange();
 
     int rowHeight_;

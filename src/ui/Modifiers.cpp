@@ -226,6 +226,17 @@ Modifier accessibilityLabel(const QString& label) {
     };
 }
 
+Modifier accessibilityValue(Binding<QString> value) {
+    return [value = std::move(value)](Element element) {
+        QWidget& widget = element.widget();
+        widget.setAccessibleDescription(value->get());
+        keep(widget, std::pair(value, value->observe([&widget](const QString& next) {
+                 widget.setAccessibleDescription(next);
+             })));
+        return element;
+    };
+}
+
 Modifier identifier(const QString& name) {
     return [name](Element element) {
         element.widget().setObjectName(name);

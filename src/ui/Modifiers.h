@@ -69,6 +69,9 @@ Modifier onTap(std::function<void()> action);
 /// An element's name for assistive technology.
 Modifier accessibilityLabel(const QString& label);
 
+/// What an element shows at the moment, for assistive technology.
+Modifier accessibilityValue(Binding<QString> value);
+
 /// The object name by which tests find an element.
 Modifier identifier(const QString& name);
 

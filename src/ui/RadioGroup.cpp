@@ -1,5 +1,6 @@
 #include "ui/RadioGroup.h"
 
+#include "ui/AccessibleRole.h"
 #include "ui/FocusRing.h"
 #include "ui/Label.h"
 #include "ui/Stack.h"
@@ -102,6 +103,7 @@ Element radioGroup(const QString& title, Binding<bool> selection,
     }
     Element group =
         stack(Qt::Vertical, {.spacing = 8, .alignment = Alignment::Leading}, std::move(rows));
+    setAccessibleRole(group.widget(), QAccessible::Grouping);
     group.widget().setAccessibleName(title);
     return vstack({.spacing = 8, .alignment = Alignment::Leading}, text(title), std::move(group));
 }

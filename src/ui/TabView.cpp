@@ -1,5 +1,6 @@
 #include "ui/TabView.h"
 
+#include "ui/AccessibleRole.h"
 #include "ui/SegmentStrip.h"
 #include "ui/Stack.h"
 
@@ -21,6 +22,7 @@ Element tabView(std::vector<Tab> tabs) {
     for (Tab& tab : tabs) {
         strip->addSegment(tab.symbol, tab.title);
         auto page = tab.content.take();
+        setAccessibleRole(*page, QAccessible::Grouping);
         page->setAccessibleName(tab.title);
         layout->addWidget(page.release());
     }

@@ -1,3 +1,4 @@
+#include "ui/AccessibleRole.h"
 #include "ui/Label.h"
 #include "ui/LabelOpacity.h"
 
@@ -29,6 +30,7 @@ public:
         policy.setHeightForWidth(wraps_);
         setSizePolicy(policy);
         setAttribute(Qt::WA_TransparentForMouseEvents);
+        setAccessibleRole(*this, QAccessible::StaticText);
         setAccessibleName(text_);
     }
 

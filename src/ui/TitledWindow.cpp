@@ -1,5 +1,6 @@
 #include "ui/TitledWindow.h"
 
+#include "ui/AccessibleRole.h"
 #include "ui/Theme.h"
 
 #include <QEvent>
@@ -12,6 +13,7 @@ namespace ui {
 TitledWindow::TitledWindow(const QString& title, QSize contentSize)
     : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                            Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint) {
+    setAccessibleRole(*this, QAccessible::Window);
     setWindowTitle(title);
     setFixedSize(contentSize);
     auto* layout = new QVBoxLayout(this);

@@ -47,13 +47,18 @@ Element switchControl(const QString& accessibilityLabel, Binding<bool> isOn,
     auto control = std::make_unique<Switch>();
     Switch& widget = *control;
     widget.setAccessibleName(accessibilityLabel);
-    widget.setChecked(isOn->get());
-    keep(widget, std::pair(isOn, isOn->observe([&widget](bool next) { widget.setChecked(next); })));
-    QObject::connect(&widget, &QAbstractButton::clicked, &widget,
-                     [&widget, isOn, flip = std::move(flip)] {
+    const auto show = [&widget](bool on) {
+        const QSignalBlocker quiet(widget);
+        widget.setChecked(on);
+    };
+    show(isOn->get());
+    keep(widget, std::pair(isOn, isOn->observe(show)));
+    // Assistive technology flips it without a click.
+    QObject::connect(&widget, &QAbstractButton::toggled, &widget,
+                     [show, isOn, flip = std::move(flip)] {
                          flip();
                          // Whoever decides may have decided otherwise.
-                         widget.setChecked(isOn->get());
+                         show(isOn->get());
                      });
     return Element(std::move(control));
 }

@@ -11,17 +11,36 @@ namespace settings {
 
 namespace {
 
-/// The store's shortcut, also while one of its two halves is about to change.
-ui::Element shortcutText(AppSettingsManager& store) {
-    ui::Element element = ui::text(ui::binding(store.shortcutKeyCode),
-                                   std::function([&store](const std::uint16_t& key) {
-                                       return shortcutDisplayString(store.shortcutModifiers, key);
-                                   }));
-    QWidget& widget = element.widget();
-    ui::keep(widget, store.shortcutModifiers.observe([&](const std::uint64_t& flags) {
-        ui::setText(widget, shortcutDisplayString(flags, store.shortcutKeyCode));
-    }));
-    return element;
+/// The label and what it shows.
+struct Label {
+    ui::Element element;
+    ui::Binding<QString> text;
+};
+
+/// Shows the store's shortcut, also while one of its two halves is about to change.
+Label label(AppSettingsManager& store, const ui::Binding<bool>& isRecording) {
+    const auto textFor = [](bool recording, std::uint64_t flags, std::uint16_t key) {
+        return recording ? QStringLiteral("Press keys...") : shortcutDisplayString(flags, key);
+    };
+    const auto text =
+        ui::state(textFor(isRecording->get(), store.shortcutModifiers, store.shortcutKeyCode));
+    const auto textIn = [text](ui::Color color) {
+        return ui::text(text, std::function([](const QString& shown) { return shown; }),
+                        {.color = color});
+    };
+    ui::Element element = ui::hstack({}, textIn(ui::Color::Accent) | ui::shownWhile(isRecording),
+                                     textIn(ui::Color::Label) | ui::shownUnless(isRecording));
+    ui::keep(element.widget(),
+             std::tuple(isRecording->observe([=, &store](bool recording) {
+                 text->set(textFor(recording, store.shortcutModifiers, store.shortcutKeyCode));
+             }),
+                        store.shortcutModifiers.observe([=, &store](std::uint64_t flags) {
+                            text->set(textFor(isRecording->get(), flags, store.shortcutKeyCode));
+                        }),
+                        store.shortcutKeyCode.observe([=, &store](std::uint16_t key) {
+                            text->set(textFor(isRecording->get(), store.shortcutModifiers, key));
+                        })));
+    return {std::move(element), text};
 }
 
 } // namespace
@@ -36,12 +55,9 @@ ui::Element ShortcutRecorderButton::body() const {
     const auto line = [recording] {
         return ui::Tint{recording->get() ? Color::Accent : Color::Separator};
     };
+    Label shown = label(appSettings, isRecording);
     return ui::button(
-               ui::hstack({},
-                          ui::text(QStringLiteral("Press keys..."), {.color = Color::Accent}) |
-                              ui::shownWhile(isRecording),
-                          shortcutText(appSettings) | ui::shownUnless(isRecording)) |
-                   ui::frame({.minimumWidth = 100}) |
+               std::move(shown.element) | ui::frame({.minimumWidth = 100}) |
                    ui::padding({.horizontal = 12, .vertical = 6}),
                [recording] { recording->set(!recording->get()); }, ui::ButtonFocus::Keyboard) |
            ui::background(shape, ui::fill(fill)) | ui::border(shape, line, 1) |
@@ -50,6 +66,7 @@ ui::Element ShortcutRecorderButton::body() const {
                return view.body();
            }) |
            ui::accessibilityLabel(QStringLiteral("Keyboard shortcut")) |
+           ui::accessibilityValue(shown.text) |
            ui::identifier(QStringLiteral("ShortcutRecorderButton"));
 }
 
