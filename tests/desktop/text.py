@@ -52,13 +52,19 @@ class AccessibilityBus:
         """Where the widget of a process that bears a name is on the screen, in pixels; at least a
         part of it lies in the rectangle `within`."""
         def is_wanted(*node):
-            return (self._name(*node) == label and self._has_state(*node, SHOWING)
-                    and within.touches(self._extents(*node)))
-        return self._extents(*self._wait_for(pid, is_wanted, limit, f"a widget {label!r}"))
+            return (self.name_of(*node) == label and self.has_state(*node, SHOWING)
+                    and within.touches(self.extents(*node)))
+        return self.extents(*self._wait_for(pid, is_wanted, limit, f"a widget {label!r}"))
 
-    def _extents(self, name, path):
+    def extents(self, name, path):
+        """Where a node is on the screen, in pixels."""
         return Rect(*self.call(name, path, "org.a11y.atspi.Component", "GetExtents",
                                GLib.Variant("(u)", (ON_SCREEN,)))[0])
+
+    def nodes_of(self, pid):
+        """Everything that a process tells of, from the outside in."""
+        return [node for root in self._roots() if self._pid(root) == pid
+                for node in self._walk(root)]
 
     def _wait_for(self, pid, is_wanted, limit, what):
         return wait.until(lambda: self._find(pid, is_wanted), limit, f"process {pid} has {what}")
@@ -97,15 +103,15 @@ class AccessibilityBus:
             yield node
             waiting.extend(self.call(*node, _ACCESSIBLE, "GetChildren")[0])
 
-    def _has_state(self, name, path, state):
+    def has_state(self, name, path, state):
         low, _ = self.call(name, path, _ACCESSIBLE, "GetState")[0]
         return bool(low & (1 << state))
 
     def _is_focused_text(self, name, path):
-        return self._has_state(name, path, FOCUSED) and _TEXT in self.call(
+        return self.has_state(name, path, FOCUSED) and _TEXT in self.call(
             name, path, _ACCESSIBLE, "GetInterfaces")[0]
 
-    def _name(self, name, path):
+    def name_of(self, name, path):
         return self.call(name, path, "org.freedesktop.DBus.Properties", "Get",
                          GLib.Variant("(ss)", (_ACCESSIBLE, "Name")))[0]
 

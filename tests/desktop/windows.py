@@ -109,7 +109,10 @@ class Windows:
         """The process of the window that the window manager calls active, or None."""
         for identifier in self._cardinals(self._root, "_NET_ACTIVE_WINDOW"):
             if identifier:
-                return self._pid(self._display.create_resource_object("window", identifier))
+                try:
+                    return self._pid(self._display.create_resource_object("window", identifier))
+                except error.XError:
+                    pass  # It has just gone, and the window manager does not know it yet.
         return None
 
     def focused_pid(self):
@@ -133,6 +136,10 @@ class Windows:
     def activate(self, window):
         """What a taskbar asks for when its user clicks a window's entry."""
         self._message(window, "_NET_ACTIVE_WINDOW", [2, X.CurrentTime, 0, 0, 0])
+
+    def close(self, window):
+        """What the close button of a window's border asks for."""
+        self._message(window, "_NET_CLOSE_WINDOW", [X.CurrentTime, 2, 0, 0, 0])
 
     def focus(self, window):
         """Gives a window the keyboard where no window manager does so."""
