@@ -1,5 +1,7 @@
 #include "platform/linux/freedesktop/XdgAutostartLoginItem.h"
 
+#include "platform/linux/freedesktop/KeyFile.h"
+
 #include <QStandardPaths>
 
 #include <utility>
@@ -42,27 +44,23 @@ QString execArgument(const QString& argument) {
     return u'"' + escaped + u'"';
 }
 
-/// Whether a desktop entry switches itself off.
-bool isSwitchedOff(const QByteArray& entry) {
-    bool inMainGroup = false;
-    for (const QByteArray& line : entry.split('\n')) {
-        const QByteArray trimmed = line.trimmed();
-        if (trimmed.startsWith('[')) {
-            inMainGroup = trimmed == "[Desktop Entry]";
-            continue;
-        }
-        const qsizetype sign = trimmed.indexOf('=');
-        if (!inMainGroup || sign < 0) {
-            continue;
-        }
-        const QByteArray key = trimmed.left(sign).trimmed();
-        const QByteArray value = trimmed.mid(sign + 1).trimmed();
-        if ((key == "Hidden" && value == "true") ||
-            (key == "X-GNOME-Autostart-enabled" && value == "false")) {
-            return true;
-        }
-    }
-    return false;
+/// The command that starts a program from wherever it lies.
+QString execLine(const QString& executable) {
+    const QString program = execArgument(executable);
+    // GLib's launcher looks for the program on the disk before it resolves "%%", and drops an entry
+    // whose program it does not find; in arguments it resolves it.
+    return executable.contains(u'%')
+               ? QStringLiteral("sh -c %1 %2")
+                     .arg(execArgument(QStringLiteral("exec \"$0\"")), program)
+               : program;
+}
+
+/// Whether the desktop's own settings, or the user, switched the entry off.
+bool isSwitchedOff(const QByteArray& contents) {
+    const auto file = KeyFile::parse(contents);
+    const auto group = QStringLiteral("Desktop Entry");
+    return file.boolean(group, QStringLiteral("Hidden")) == true ||
+           file.boolean(group, QStringLiteral("X-GNOME-Autostart-enabled")) == false;
 }
 
 } // namespace
@@ -92,7 +90,7 @@ LoginItem::Error XdgAutostartLoginItem::registerItem() {
                                          "Icon=com.corvane.Quillet\n"
                                          "Terminal=false\n"
                                          "X-GNOME-Autostart-enabled=true\n")
-                              .arg(execArgument(executable_));
+                              .arg(execLine(executable_));
     return entry_.replace(entry.toUtf8());
 }
 

@@ -62,7 +62,8 @@ TEST_F(XdgAutostartLoginItemTest, QuotesTheExecutableAsLaunchersReadIt) {
     const std::vector<std::pair<QString, std::string>> rows{
         {QStringLiteral("/opt/my apps/q"), R"(Exec="/opt/my apps/q")"},
         {QStringLiteral("/a\"b`c$d\\e"), R"(Exec="/a\\"b\\`c\\$d\\\\e")"},
-        {QStringLiteral("/100%u/\n"), R"(Exec="/100%%u/\n")"},
+        {QStringLiteral("/two\nlines"), R"(Exec="/two\nlines")"},
+        {QStringLiteral("/100%u"), R"(Exec=sh -c "exec \\"\\$0\\"" "/100%%u")"},
         {QStringLiteral("/\u00e4/q"), "Exec=\"/\xc3\xa4/q\""},
     };
     for (const auto& [executable, line] : rows) {

@@ -1,0 +1,89 @@
+"""Start at login: the entry that the program leaves, started as desktops start it."""
+
+import os
+import shutil
+import signal
+import unittest
+
+from gi.repository import Gio
+
+import processes
+import wait
+from case import DesktopCase, EXECUTABLE
+from entries import Entries
+from program import Program
+
+# Everything that means something to those who read an Exec line, on the way to the program.
+FOLDERS = ("my \"apps\" \\ $HOME `id`; 'ü' & a=b", "100%u $0 a=b %%")
+OFF = ("Hidden=true", "X-GNOME-Autostart-enabled=false")
+
+
+class LoginTest(DesktopCase):
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        Entries(cls.desktop, "plain")  # The first application seen makes it read its settings.
+        cls.entry = os.path.join(cls.desktop.session.config_folder, "autostart",
+                                 "com.corvane.Quillet.desktop")
+
+    def write_entry(self, *lines):
+        os.makedirs(os.path.dirname(self.entry), exist_ok=True)
+        with open(self.entry, "w", encoding="utf-8") as file:
+            file.write("\n".join(("[Desktop Entry]", "Type=Application", "Name=Old", *lines)))
+
+    def read_entry(self):
+        with open(self.entry, encoding="utf-8") as file:
+            return file.read()
+
+    def log_in(self):
+        """Has the desktop's library start the entry."""
+        context = Gio.AppLaunchContext()
+        for name in os.environ:
+            context.unsetenv(name)
+        for name, value in self.desktop.session.environment.items():
+            context.setenv(name, value)
+        self.assertTrue(Gio.DesktopAppInfo.new_from_filename(self.entry).launch([], context))
+
+    def running(self, executable):
+        session = processes.with_environment("XDG_RUNTIME_DIR", self.desktop.session.runtime_folder)
+        return [pid for pid in session if os.path.realpath(f"/proc/{pid}/exe") == executable]
+
+    def program_in(self, folder):
+        """A copy of the program that has registered itself, and has ended."""
+        folder = self.desktop.session.path(folder)
+        os.mkdir(folder)
+        copy = shutil.copy2(os.path.abspath(EXECUTABLE), folder)
+        self.write_entry("Exec=/an/earlier/place")
+        program = Program(self.desktop, copy)
+        self.programs.append(program)
+        self.addCleanup(program.end)
+        program.wait_until(lambda: "/an/earlier/place" not in self.read_entry(), 5.0,
+                           "the entry names the place of today")
+        program.end()
+        return copy
+
+    def test_the_entry_starts_the_program_wherever_it_lies_and_never_twice(self):
+        for folder in FOLDERS:
+            with self.subTest(folder):
+                copy = self.program_in(folder)
+                self.log_in()
+                pid, = wait.until(lambda: self.running(copy), 5.0, "the program runs")
+                wait.until(lambda: self.tray.item_of(pid), 10.0, "its icon is there")
+                self.log_in()
+                wait.until(lambda: self.windows.client_of(pid), 5.0, "the second start tells it")
+                wait.until(lambda: self.running(copy) == [pid], 5.0, "the second start has ended")
+                os.kill(pid, signal.SIGTERM)
+                wait.until(lambda: not self.running(copy), 5.0, "the program has ended")
+
+    def test_an_entry_that_the_desktop_turned_off_stays_off(self):
+        for line in OFF:
+            with self.subTest(line):
+                self.write_entry(f"Exec={EXECUTABLE}", line)
+                program = self.start_program()
+                wait.until(lambda: not os.path.exists(self.entry), 5.0, "the entry is gone")
+                program.end()
+
+
+if __name__ == "__main__":
+    unittest.main()
