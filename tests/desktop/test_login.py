@@ -5,8 +5,6 @@ import shutil
 import signal
 import unittest
 
-from gi.repository import Gio
-
 import processes
 import wait
 from case import DesktopCase, EXECUTABLE
@@ -37,13 +35,7 @@ class LoginTest(DesktopCase):
             return file.read()
 
     def log_in(self):
-        """Has the desktop's library start the entry."""
-        context = Gio.AppLaunchContext()
-        for name in os.environ:
-            context.unsetenv(name)
-        for name, value in self.desktop.session.environment.items():
-            context.setenv(name, value)
-        self.assertTrue(Gio.DesktopAppInfo.new_from_filename(self.entry).launch([], context))
+        self.desktop.session.launch(self.entry)
 
     def running(self, executable):
         session = processes.with_environment("XDG_RUNTIME_DIR", self.desktop.session.runtime_folder)
