@@ -60,9 +60,7 @@ ActivationToken activationToken(const QVariantMap& platformData) {
 }
 
 core::Registration ApplicationObject::setRequestHandler(ProgramInstance::Handler handler) {
-    handler_ = std::move(handler);
-    deliver();
-    return core::Registration([this] { handler_ = nullptr; });
+    return requests_.setRequestHandler(std::move(handler));
 }
 
 void ApplicationObject::Activate(const QVariantMap& platformData) {
@@ -83,24 +81,7 @@ void ApplicationObject::ActivateAction(const QString& name, const QVariantList&,
 }
 
 void ApplicationObject::accept(InstanceRequest request) {
-    undelivered_.push_back(std::move(request));
-    deliver();
-}
-
-void ApplicationObject::deliver() {
-    // Later, so that the caller has its answer first, however long the handler takes.
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            while (handler_ && !undelivered_.empty()) {
-                const InstanceRequest request = undelivered_.front();
-                undelivered_.pop_front();
-                // A copy: the handler may end its own registration.
-                const auto handler = handler_;
-                handler(request);
-            }
-        },
-        Qt::QueuedConnection);
+    requests_.accept(std::move(request));
 }
 
 } // namespace platform

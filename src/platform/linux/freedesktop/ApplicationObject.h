@@ -2,12 +2,12 @@
 
 #include "core/Registration.h"
 #include "platform/ProgramInstance.h"
+#include "platform/qt/InstanceRequestQueue.h"
 
 #include <QDBusContext>
 #include <QObject>
 #include <QVariantMap>
 
-#include <deque>
 #include <optional>
 
 namespace platform {
@@ -33,10 +33,7 @@ public:
                                      const QVariantMap& platformData);
 
 private:
-    void deliver();
-
-    ProgramInstance::Handler handler_;
-    std::deque<InstanceRequest> undelivered_;
+    InstanceRequestQueue requests_;
 };
 
 /// The name by which the desktop asks for it; none for a plain activation.

@@ -68,5 +68,56 @@ CFDictionaryRef _Nullable CFDictionaryCreate(CFAllocatorRef _Nullable allocator,
                                    const CFDictionaryKeyCallBacks* _Nullable keyCallBacks,
                                    const CFDictionaryValueCallBacks* _Nullable valueCallBacks);
 
+// corefoundation/cfrunloop, cfrunloopsource, cfrunloopmode
+using CFRunLoopRef = struct __CFRunLoop*;
+using CFRunLoopSourceRef = struct __CFRunLoopSource*;
+using CFRunLoopMode = CFStringRef;
+extern const CFRunLoopMode kCFRunLoopDefaultMode;
+extern const CFRunLoopMode kCFRunLoopCommonModes;
+
+// corefoundation/cfrunloopgetmain(), cfrunloopaddsource(_:_:_:)
+CFRunLoopRef CFRunLoopGetMain();
+void CFRunLoopAddSource(CFRunLoopRef rl, CFRunLoopSourceRef source, CFRunLoopMode mode);
+
+// corefoundation/cfmessageport, cfmessageportcontext, cfmessageportcallback
+using CFMessagePortRef = struct __CFMessagePort*;
+struct CFMessagePortContext {
+    CFIndex version;
+    void* _Nullable info;
+    const void* _Nullable (*_Nullable retain)(const void* _Nullable info);
+    void (*_Nullable release)(const void* _Nullable info);
+    CFStringRef _Nullable (*_Nullable copyDescription)(const void* _Nullable info);
+};
+using CFMessagePortCallBack = CFDataRef _Nullable (*)(CFMessagePortRef _Nullable local, SInt32 msgid,
+                                                      CFDataRef _Nullable data, void* _Nullable info);
+
+// corefoundation/cfmessageportcreatelocal(_:_:_:_:_:), cfmessageportcreateremote(_:_:)
+CFMessagePortRef _Nullable CFMessagePortCreateLocal(CFAllocatorRef _Nullable allocator,
+                                                    CFStringRef _Nullable name,
+                                                    CFMessagePortCallBack _Nullable callout,
+                                                    CFMessagePortContext* _Nullable context,
+                                                    Boolean* _Nullable shouldFreeInfo);
+CFMessagePortRef _Nullable CFMessagePortCreateRemote(CFAllocatorRef _Nullable allocator,
+                                                     CFStringRef _Nullable name);
+
+// corefoundation/cfmessageportcreaterunloopsource(_:_:_:), cfmessageportinvalidate(_:)
+CFRunLoopSourceRef _Nullable CFMessagePortCreateRunLoopSource(CFAllocatorRef _Nullable allocator,
+                                                              CFMessagePortRef local, CFIndex order);
+void CFMessagePortInvalidate(CFMessagePortRef ms);
+
+// corefoundation/cfmessageportsendrequest(_:_:_:_:_:_:_:), 1561514-cfmessageportsendrequest-error-c
+enum : SInt32 {
+    kCFMessagePortSuccess = 0,
+    kCFMessagePortSendTimeout = -1,
+    kCFMessagePortReceiveTimeout = -2,
+    kCFMessagePortIsInvalid = -3,
+    kCFMessagePortTransportError = -4,
+    kCFMessagePortBecameInvalidError = -5,
+};
+SInt32 CFMessagePortSendRequest(CFMessagePortRef remote, SInt32 msgid, CFDataRef _Nullable data,
+                                CFTimeInterval sendTimeout, CFTimeInterval rcvTimeout,
+                                CFStringRef _Nullable replyMode,
+                                CFDataRef _Nullable* _Nullable returnData);
+
 } // extern "C"
 QUILLET_ASSUME_NONNULL_END

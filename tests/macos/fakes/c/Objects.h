@@ -9,7 +9,18 @@
 /// process where the real system would crash or corrupt memory.
 namespace appleFake {
 
-enum Type : CFTypeID { String = 1, Boolean_, Dictionary, Element, Value, Event, EventSource };
+enum Type : CFTypeID {
+    String = 1,
+    Boolean_,
+    Dictionary,
+    Element,
+    Value,
+    Event,
+    EventSource,
+    Port,
+    RunLoop,
+    RunLoopSource
+};
 
 struct Object {
     explicit Object(Type t)
