@@ -9,11 +9,7 @@
 
 namespace slash {
 
-SlashMenuViewModel::SlashMenuViewModel(std::function<void(SlashCommand)> select)
-    : onSelect(std::move(select)) {}
-
-std::vector<SlashCommand> SlashMenuViewModel::filteredCommands() const {
-    const QString& search = searchText.get();
+std::vector<SlashCommand> commandsMatching(const QString& search) {
     if (search.isEmpty()) {
         return {allSlashCommands.begin(), allSlashCommands.end()};
     }
@@ -25,6 +21,13 @@ std::vector<SlashCommand> SlashMenuViewModel::filteredCommands() const {
                    shortcut(command).contains(search, Qt::CaseSensitive);
         });
     return matching;
+}
+
+SlashMenuViewModel::SlashMenuViewModel(std::function<void(SlashCommand)> select)
+    : onSelect(std::move(select)) {}
+
+std::vector<SlashCommand> SlashMenuViewModel::filteredCommands() const {
+    return commandsMatching(searchText.get());
 }
 
 void SlashMenuViewModel::selectCurrent() const {

@@ -10,6 +10,10 @@
 
 namespace slash {
 
+/// The commands whose title, description or shortcut contains the search, in the order of the
+/// catalogue; all of them for an empty search.
+std::vector<SlashCommand> commandsMatching(const QString& search);
+
 /// What the slash menu shows: the search, the commands that match it, and the highlighted one.
 /// Search and highlight are independent: a search that leaves fewer commands than the highlight's
 /// position highlights none. Main thread only.
@@ -23,8 +27,7 @@ public:
     core::Published<int> selectedIndex;
     const std::function<void(SlashCommand)> onSelect;
 
-    /// The commands whose title, description or shortcut contains the search, in the order of the
-    /// catalogue.
+    /// The commands that match the search.
     std::vector<SlashCommand> filteredCommands() const;
 
     /// Chooses the highlighted command; does nothing when none is. A negative position stops the

@@ -1,5 +1,6 @@
 #include "ui/AccessibleRole.h"
 
+#include <QAbstractButton>
 #include <QAccessibleWidget>
 #include <QVariant>
 
@@ -21,6 +22,45 @@ public:
         state.selectable = selected.isValid();
         state.selected = selected.toBool();
         return state;
+    }
+
+    // Rows that are hidden are not among a list's children.
+    int childCount() const override { return static_cast<int>(shownChildren().size()); }
+    QAccessibleInterface* child(int index) const override {
+        return QAccessible::queryAccessibleInterface(shownChildren().value(index));
+    }
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        return static_cast<int>(shownChildren().indexOf(child->object()));
+    }
+
+    QStringList actionNames() const override {
+        QStringList names = QAccessibleWidget::actionNames();
+        if (button() != nullptr && widget()->isEnabled()) {
+            names.prepend(pressAction());
+        }
+        return names;
+    }
+    void doAction(const QString& name) override {
+        if (button() != nullptr && name == pressAction()) {
+            button()->click();
+        } else {
+            QAccessibleWidget::doAction(name);
+        }
+    }
+
+private:
+    QAbstractButton* button() const { return qobject_cast<QAbstractButton*>(object()); }
+
+    QObjectList shownChildren() const {
+        QObjectList shown;
+        for (int index = 0; index < QAccessibleWidget::childCount(); ++index) {
+            QObject* object = QAccessibleWidget::child(index)->object();
+            const auto* child = qobject_cast<QWidget*>(object);
+            if (child == nullptr || !child->isHidden()) {
+                shown.append(object);
+            }
+        }
+        return shown;
     }
 };
 

@@ -4,26 +4,38 @@
 
 namespace ui {
 
-HostingView::HostingView(Element root)
-    : root_(*root.take().release()) {
+HostingView::HostingView(Element root, Sizing sizing)
+    : root_(*root.take().release())
+    , sizing_(sizing) {
     root_.setParent(this);
-    centre();
+    place();
+}
+
+QSize HostingView::idealSize() const {
+    return naturalSize(root_);
 }
 
 void HostingView::resizeEvent(QResizeEvent*) {
-    centre();
+    place();
 }
 
 bool HostingView::event(QEvent* event) {
     // The element asks for another size, as with another font.
     if (event->type() == QEvent::LayoutRequest) {
-        centre();
+        place();
+        if (onIdealSizeChange) {
+            onIdealSizeChange();
+        }
     }
     return QWidget::event(event);
 }
 
-void HostingView::centre() {
-    const QSize size = naturalSize(root_);
+void HostingView::place() {
+    if (sizing_ == Sizing::Filling) {
+        root_.setGeometry(rect());
+        return;
+    }
+    const QSize size = idealSize();
     root_.setGeometry((width() - size.width()) / 2, (height() - size.height()) / 2, size.width(),
                       size.height());
 }

@@ -12,8 +12,8 @@ namespace ui {
 struct SymbolOptions {
     double pointSize = 13;
     Weight weight = Weight::Regular;
-    /// One colour, or a gradient from the leading to the trailing edge.
-    std::vector<Color> colors = {Color::Label};
+    /// One, or a gradient from the leading to the trailing edge.
+    std::vector<Ink> colors = {Color::Label};
 };
 
 /// A system symbol by its name, sharp at any density.
@@ -22,7 +22,7 @@ Element symbol(const QString& name, SymbolOptions options = {});
 struct TextOptions {
     double pointSize = 13;
     Weight weight = Weight::Regular;
-    Color color = Color::Label;
+    Ink color = Color::Label;
     bool isMonospaced = false;
     /// Takes as many lines as it needs at the width that it gets, instead of one.
     bool wraps = false;

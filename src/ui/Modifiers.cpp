@@ -42,6 +42,45 @@ private:
     QWidget& widget_;
 };
 
+void strokeInside(QPainter& painter, const QRectF& rect, const RoundedRectangle& shape,
+                  const QColor& color, double lineWidth) {
+    const double half = lineWidth / 2;
+    const RoundedRectangle line{shape.cornerRadius - half, shape.corners};
+    painter.strokePath(line.path(rect.adjusted(half, half, -half, -half)), QPen(color, lineWidth));
+}
+
+/// A line around a widget, over all that is in it.
+class Outline final : public QWidget {
+public:
+    Outline(QWidget& around, RoundedRectangle shape, Tint tint, double lineWidth)
+        : QWidget(&around)
+        , shape_(shape)
+        , tint_(tint)
+        , lineWidth_(lineWidth) {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        around.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Resize) {
+            setGeometry(static_cast<QWidget*>(watched)->rect());
+        }
+        return false;
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        strokeInside(painter, rect(), shape_, color(tint_, palette()), lineWidth_);
+    }
+
+private:
+    RoundedRectangle shape_;
+    Tint tint_;
+    double lineWidth_;
+};
+
 /// Tells when a widget is shown; that its window was minimised and is back does not count.
 class Appearance final : public QObject {
 public:
@@ -157,12 +196,18 @@ Modifier border(RoundedRectangle shape, std::function<Tint()> tint, double lineW
     return [=, tint = std::move(tint)](Element element) {
         Decoration::of(element.widget())
             .addInFront([=](QPainter& painter, const QRectF& rect, const QPalette& palette) {
-                const double half = lineWidth / 2;
-                const RoundedRectangle line{shape.cornerRadius - half};
-                painter.strokePath(line.path(rect.adjusted(half, half, -half, -half)),
-                                   QPen(color(tint(), palette), lineWidth));
+                strokeInside(painter, rect, shape, color(tint(), palette), lineWidth);
             });
         element.setStage(Stage::Decorated);
+        return element;
+    };
+}
+
+Modifier outline(RoundedRectangle shape, Tint tint, double lineWidth) {
+    return [=](Element element) {
+        // Whatever is put around the element stays outside its outline.
+        element.setStage(Stage::Decorated);
+        new Outline(element.widget(), shape, tint, lineWidth);
         return element;
     };
 }

@@ -47,6 +47,9 @@ Modifier border(RoundedRectangle shape, Tint tint, double lineWidth);
 /// The function may depend on what the view observes with redrawOn.
 Modifier border(RoundedRectangle shape, std::function<Tint()> tint, double lineWidth);
 
+/// The outline of a shape inside an element's edges, in front of everything in it.
+Modifier outline(RoundedRectangle shape, Tint tint, double lineWidth);
+
 /// An element of its own size behind another one, in its middle.
 Modifier behind(const std::function<Element()>& backdrop);
 

@@ -48,11 +48,11 @@ QPainterPath RoundedRectangle::path(const QRectF& rect) const {
             path.elementCount() == 0 ? path.moveTo(place) : path.lineTo(place);
         }
     };
-    const QRectF centres = rect.adjusted(extent, extent, -extent, -extent);
-    corner(centres.topRight(), extent, -extent, true);
-    corner(centres.bottomRight(), extent, extent, false);
-    corner(centres.bottomLeft(), -extent, extent, true);
-    corner(centres.topLeft(), -extent, -extent, false);
+    const double lower = corners == Corners::All ? extent : 0;
+    corner(rect.topRight() + QPointF(-extent, extent), extent, -extent, true);
+    corner(rect.bottomRight() - QPointF(lower, lower), lower, lower, false);
+    corner(rect.bottomLeft() + QPointF(lower, -lower), -lower, lower, true);
+    corner(rect.topLeft() + QPointF(extent, extent), -extent, -extent, false);
     path.closeSubpath();
     return path;
 }

@@ -7,7 +7,9 @@ namespace ui {
 /// A thin vertical indicator of what part of a page is visible; it can be dragged.
 class ScrollBar final : public QScrollBar {
 public:
-    ScrollBar();
+    enum class Width { Normal, Narrow };
+
+    explicit ScrollBar(Width width = Width::Normal);
 
     QSize sizeHint() const override;
 
@@ -15,6 +17,9 @@ protected:
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    int width_;
 };
 
 } // namespace ui

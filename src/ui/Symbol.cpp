@@ -58,13 +58,13 @@ private:
     QBrush brush(int length) const {
         const auto& colors = options_.colors;
         if (colors.size() == 1) {
-            return color({colors.front()}, palette());
+            return color(colors.front()(), palette());
         }
         const bool mirrored = layoutDirection() == Qt::RightToLeft;
         QLinearGradient gradient(mirrored ? length : 0, 0, mirrored ? 0 : length, 0);
         for (std::size_t i = 0; i < colors.size(); ++i) {
             gradient.setColorAt(static_cast<double>(i) / static_cast<double>(colors.size() - 1),
-                                color({colors[i]}, palette()));
+                                color(colors[i](), palette()));
         }
         return gradient;
     }

@@ -14,7 +14,7 @@ class Text final : public QWidget {
 public:
     Text(QString text, TextOptions options)
         : text_(std::move(text))
-        , color_(options.color)
+        , color_(std::move(options.color))
         , wraps_(options.wraps)
         , truncates_(options.truncates) {
         QFont font = ui::font(options.pointSize, options.weight);
@@ -62,7 +62,7 @@ protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         painter.setOpacity(labelOpacity(*this));
-        painter.setPen(color({color_}, palette()));
+        painter.setPen(color(color_(), palette()));
         const QFontMetrics metrics = fontMetrics();
         const bool fits = !truncates_ || metrics.horizontalAdvance(text_) <= width();
         painter.drawText(rect(), flags() | Qt::TextDontClip,
@@ -76,7 +76,7 @@ private:
     }
 
     QString text_;
-    Color color_;
+    Ink color_;
     bool wraps_;
     bool truncates_;
 };

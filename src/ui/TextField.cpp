@@ -46,7 +46,11 @@ public:
             }
         })));
         if (options_.onSubmit) {
-            connect(this, &QLineEdit::returnPressed, this, [this] { options_.onSubmit(); });
+            connect(this, &QLineEdit::returnPressed, this, [this] {
+                if (!isComposing_) {
+                    options_.onSubmit();
+                }
+            });
         }
         if (const auto& isFocused = options_.isFocused) {
             keep(*this, std::pair(isFocused, isFocused->observe([this](bool wanted) {
@@ -59,11 +63,17 @@ public:
 
 protected:
     bool event(QEvent* event) override {
-        if (event->type() == QEvent::KeyPress && options_.onKeyPress && !isComposing_ &&
-            options_.onKeyPress(static_cast<QKeyEvent&>(*event))) {
+        if (event->type() != QEvent::KeyPress) {
+            return QLineEdit::event(event);
+        }
+        if (isComposing_) {
+            // What the input method leaves over is nobody else's either.
+            QLineEdit::event(event);
+            event->accept();
             return true;
         }
-        return QLineEdit::event(event);
+        return (options_.onKeyPress && options_.onKeyPress(static_cast<QKeyEvent&>(*event))) ||
+               QLineEdit::event(event);
     }
 
     void inputMethodEvent(QInputMethodEvent* event) override {

@@ -1,6 +1,7 @@
 #include "ui/Theme.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace ui {
 
@@ -31,6 +32,32 @@ QColor material(const QPalette& palette, double lightLift, double darkLift, doub
     return faded(mixed(role(palette, QPalette::Window), Qt::white, lift), alpha);
 }
 
+/// A component of a colour as the eye takes it, from 0 to 1.
+double linear(double component) {
+    return component <= 0.04045 ? component / 12.92 : std::pow((component + 0.055) / 1.055, 2.4);
+}
+
+double luminance(const QColor& color) {
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+}
+
+/// The colour itself, or the lightest darker shade of it on which thin white text can be read.
+QColor behindWhiteText(QColor color) {
+    constexpr double textOpacity = 0.8;
+    constexpr double readable = 4.5;
+    constexpr double step = 0.02;
+    const auto contrast = [](const QColor& ground) {
+        return (luminance(mixed(ground, Qt::white, textOpacity)) + 0.05) /
+               (luminance(ground) + 0.05);
+    };
+    const QColor accent = color;
+    for (double share = step; contrast(color) < readable; share += step) {
+        color = mixed(accent, Qt::black, share);
+    }
+    return color;
+}
+
 QColor opaque(Color color, const QPalette& palette) {
     const bool dark = isDark(palette);
     const auto either = [dark](QRgb light, QRgb night) { return QColor(dark ? night : light); };
@@ -49,6 +76,10 @@ QColor opaque(Color color, const QPalette& palette) {
         return role(palette, QPalette::Highlight);
     case Color::OnAccent:
         return role(palette, QPalette::HighlightedText);
+    case Color::AccentBehindText:
+        return behindWhiteText(role(palette, QPalette::Highlight));
+    case Color::White:
+        return Qt::white;
     case Color::ControlFace:
         return mixed(role(palette, QPalette::Base), Qt::white, dark ? 0.22 : 1);
     case Color::ControlTrack:

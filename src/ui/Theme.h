@@ -6,6 +6,10 @@
 #include <QFont>
 #include <QPalette>
 
+#include <concepts>
+#include <functional>
+#include <utility>
+
 namespace ui {
 
 /// Colours by their meaning. Each follows the desktop's palette, light or dark.
@@ -18,6 +22,9 @@ enum class Color {
     Accent,
     /// Text and symbols on the accent colour.
     OnAccent,
+    /// The accent colour behind white text, dark enough for text that is not fully opaque.
+    AccentBehindText,
+    White,
     ControlBackground,
     /// Bordered buttons and the chosen tab.
     ControlFace,
@@ -46,7 +53,32 @@ struct Tint {
     Color color = Color::Clear;
     double opacity = 1;
 
+    constexpr Tint() = default;
+    constexpr Tint(Color base, double thinned = 1) // NOLINT(google-explicit-constructor)
+        : color(base)
+        , opacity(thinned) {}
+
     bool operator==(const Tint&) const = default;
+};
+
+/// What something is drawn in: a tint, or one asked for whenever it is drawn, which may depend on
+/// what the view observes with redrawOn.
+class Ink {
+public:
+    // NOLINTBEGIN(google-explicit-constructor): a colour is the usual ink
+    Ink(Color color)
+        : Ink(Tint(color)) {}
+    Ink(Tint tint)
+        : tint_([tint] { return tint; }) {}
+    template <std::invocable Make>
+    Ink(Make make)
+        : tint_(std::move(make)) {}
+    // NOLINTEND(google-explicit-constructor)
+
+    Tint operator()() const { return tint_(); }
+
+private:
+    std::function<Tint()> tint_;
 };
 
 using Weight = platform::SymbolWeight;

@@ -4,7 +4,7 @@ namespace gallery {
 
 std::vector<Entry> entries() {
     std::vector<Entry> all;
-    for (const auto& feature : {barEntries(), settingsEntries(), symbolEntries()}) {
+    for (const auto& feature : {barEntries(), settingsEntries(), slashEntries(), symbolEntries()}) {
         all.insert(all.end(), feature.begin(), feature.end());
     }
     return all;

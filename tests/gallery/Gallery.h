@@ -19,6 +19,7 @@ std::vector<Entry> entries();
 // One for each feature.
 std::vector<Entry> barEntries();
 std::vector<Entry> settingsEntries();
+std::vector<Entry> slashEntries();
 std::vector<Entry> symbolEntries();
 
 } // namespace gallery

@@ -1,0 +1,58 @@
+#include "gallery/Gallery.h"
+
+#include "fakes/FakePlatform.h"
+#include "platform/qt/QtKeyPresses.h"
+#include "slash/SlashMenuController.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QTest>
+
+#include <algorithm>
+
+namespace gallery {
+
+namespace {
+
+/// The position of a key that the menu knows, on a keyboard like any other.
+std::optional<platform::KeyCode> position(const QKeyEvent& event) {
+    switch (event.key()) {
+    case Qt::Key_Return:
+        return 36;
+    case Qt::Key_Escape:
+        return 53;
+    case Qt::Key_Down:
+        return 125;
+    case Qt::Key_Up:
+        return 126;
+    default:
+        return std::nullopt;
+    }
+}
+
+/// The menu with its highlight moved down some rows.
+Entry slash(const char* name, int rowsDown, const char* search = "") {
+    return {QString::fromLatin1(name), [=](fakes::FakePlatform& rooms, const QString& text) {
+                rooms.platform.keyPresses = std::make_unique<platform::QtKeyPresses>(position);
+                auto menu = std::make_shared<slash::SlashMenuController>();
+                menu->show({60, -60});
+                const auto windows = QApplication::topLevelWidgets();
+                QWidget* window =
+                    *std::ranges::find(windows, QStringLiteral("slashMenu"), &QObject::objectName);
+                auto* field = window->findChild<QWidget*>(QStringLiteral("search"));
+                QTest::keyClicks(field, text.isEmpty() ? QString::fromLatin1(search) : text);
+                for (int row = 0; row < rowsDown; ++row) {
+                    QTest::keyClick(field, Qt::Key_Down);
+                }
+                return Exhibit{menu, {window}, Exhibit::Ground::Page};
+            }};
+}
+
+} // namespace
+
+std::vector<Entry> slashEntries() {
+    return {slash("slash", 0), slash("slash-scrolled", 7), slash("slash-search", 1, "list"),
+            slash("slash-nothing-found", 0, "nothing has this")};
+}
+
+} // namespace gallery
