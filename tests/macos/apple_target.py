@@ -43,7 +43,7 @@ class Toolchain:
         return sorted(p for p in self.layer.rglob("*") if p.suffix in {".cpp", ".mm"})
 
     def headers(self):
-        return sorted(self.layer.rglob("*.h"))
+        return sorted(self.layer.rglob("*.h*"))
 
     def command(self, source, *more):
         language = "objective-c++" if source.suffix == ".mm" else "c++"
