@@ -16,9 +16,6 @@ public:
         leftAloneUntil_ = now + pause_;
     }
 
-    /// The application answered; its next lapse counts as its first.
-    void answered() { *this = SlownessGuard(); }
-
     bool isLeftAlone(Clock::time_point now) const { return now < leftAloneUntil_; }
 
 private:

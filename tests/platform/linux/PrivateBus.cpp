@@ -6,6 +6,8 @@
 #include <QThread>
 #include <gtest/gtest.h>
 
+#include <csignal>
+
 namespace fakes {
 
 namespace {
@@ -31,6 +33,10 @@ PrivateBus::~PrivateBus() {
     }
     daemon_.kill();
     daemon_.waitForFinished(limitMilliseconds);
+}
+
+void PrivateBus::setPaused(bool paused) {
+    kill(static_cast<pid_t>(daemon_.processId()), paused ? SIGSTOP : SIGCONT);
 }
 
 QDBusConnection PrivateBus::connect() {

@@ -18,6 +18,9 @@ public:
     QDBusConnection connect();
     void disconnect(const QDBusConnection& connection);
 
+    /// A paused bus takes messages and passes none on.
+    void setPaused(bool paused);
+
     /// For programs that are to use this bus.
     const QString& address() const { return address_; }
 

@@ -11,8 +11,14 @@ std::optional<QString> ApplicationDirectory::serviceOf(ProcessIdentifier process
     return find(process);
 }
 
-void ApplicationDirectory::forget(const QString& service) {
-    processes_.remove(service);
+std::optional<ProcessIdentifier> ApplicationDirectory::forget(const QString& service) {
+    const auto known = processes_.constFind(service);
+    if (known == processes_.cend()) {
+        return std::nullopt;
+    }
+    const ProcessIdentifier process = *known;
+    processes_.erase(known);
+    return process;
 }
 
 void ApplicationDirectory::learn(Inquiry& inquiry) {

@@ -16,7 +16,8 @@ public:
     /// The name under which a process answers; empty when it does not take part.
     std::optional<QString> serviceOf(ProcessIdentifier process, Inquiry& inquiry);
 
-    void forget(const QString& service);
+    /// The process that had this name, if it was known.
+    std::optional<ProcessIdentifier> forget(const QString& service);
     void clear() { processes_.clear(); }
 
 private:

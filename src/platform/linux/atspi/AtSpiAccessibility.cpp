@@ -44,6 +44,7 @@ AtSpiAccessibility::AtSpiAccessibility(ApplicationWindows& windows, QDBusConnect
         // Another bus gives the same names to other applications.
         found_.reset();
         directory_.clear();
+        guards_.clear();
         focusFinder_ = {};
         coordinates_ = {};
         outdated_ = Outdated::Focus;
@@ -79,6 +80,10 @@ Accessibility::Element AtSpiAccessibility::applicationElement(ProcessIdentifier 
 }
 
 void AtSpiAccessibility::startInquiry(std::chrono::milliseconds spent) {
+    if (inquiry_ && inquiry_->callCount() > 0 && !inquiry_->ranOut()) {
+        // Everything that was asked was answered in time: the next lapse counts as the first.
+        guards_.remove(lookedAt_);
+    }
     earlierCalls_ = callCount();
     inquiry_.emplace(bus_.connection(),
                      std::max(limits_.deadline - spent, std::chrono::milliseconds(0)));
@@ -107,7 +112,6 @@ Accessibility::Element AtSpiAccessibility::focusedElement(const Element& applica
         outdated_ = Outdated::Focus;
         return nullptr;
     }
-    guards_.remove(known->process);
     found_ = std::move(found);
     return found_;
 }
@@ -168,13 +172,20 @@ std::optional<FocusedObject> AtSpiAccessibility::findFocus(ProcessIdentifier pro
         return std::nullopt;
     }
     auto focus = focusFinder_.find(*service, events_.lastFocused(*service), *inquiry_);
+    if (inquiry_->ranOut()) {
+        // To follow a sender the library asks the bus for its owner, without a limit of ours, and
+        // it may be the bus that does not answer.
+        return std::nullopt;
+    }
     // What is embedded from another process tells of itself under that process's name.
     events_.follow(focus ? focus->object.service : *service);
     return focus;
 }
 
 void AtSpiAccessibility::forgetApplication(const QString& service) {
-    directory_.forget(service);
+    if (const auto process = directory_.forget(service)) {
+        guards_.remove(*process);
+    }
     focusFinder_.forget(service);
     outdated_ = Outdated::Focus;
 }

@@ -38,9 +38,11 @@ StatusNotifierHost::StatusNotifierHost(const QDBusConnection& bus)
                     ask();
                 }
             });
+    // From whomever they come: for a named sender the library would ask the bus for its owner,
+    // without a limit of ours.
     for (const QString& signal : {QStringLiteral("StatusNotifierHostRegistered"),
                                   QStringLiteral("StatusNotifierHostUnregistered")}) {
-        bus_.connect(watcherName(), watcherPath(), watcherName(), signal, this, SLOT(ask()));
+        bus_.connect(QString(), watcherPath(), watcherName(), signal, this, SLOT(ask()));
     }
     ask();
 }

@@ -28,10 +28,6 @@ core::Registration XcbConnection::addEventHandler(EventHandler handler) {
     return eventHandlers_.add(std::move(handler));
 }
 
-core::Registration XcbConnection::addLostHandler(std::function<void()> handler) {
-    return lostHandlers_.add(std::move(handler));
-}
-
 void XcbConnection::addRootEvents(std::uint32_t mask) {
     if ((rootEvents_ | mask) == rootEvents_) {
         return;
@@ -80,8 +76,8 @@ void XcbConnection::dispatchEvents() {
     xcb_flush(get());
     if (!isAlive()) {
         lost_ = true;
+        // The toolkit ends the program; a socket that stays readable would keep it busy until then.
         notifier_.setEnabled(false);
-        lostHandlers_.notify();
     }
 }
 

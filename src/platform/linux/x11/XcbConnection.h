@@ -24,9 +24,6 @@ public:
     /// registration lives. Errors of requests without an answer are not events.
     [[nodiscard]] core::Registration addEventHandler(EventHandler handler);
 
-    /// Calls `handler` once, when the server is gone.
-    [[nodiscard]] core::Registration addLostHandler(std::function<void()> handler);
-
     /// Adds to the events that are sent for the root window. The mask is one for the whole
     /// connection: whoever set it directly would take their events from the others.
     void addRootEvents(std::uint32_t mask);
@@ -44,7 +41,6 @@ private:
     QObject context_;
     QSocketNotifier notifier_;
     core::Observers<const xcb_generic_event_t&> eventHandlers_;
-    core::Observers<> lostHandlers_;
     std::uint32_t rootEvents_ = 0;
     /// Never shown; changing it makes the server tell the time.
     xcb_window_t clockWindow_ = XCB_WINDOW_NONE;

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QMutexLocker>
 
+#include <csignal>
 #include <stdexcept>
 
 namespace fakes {
@@ -55,6 +56,10 @@ PrivateBus::~PrivateBus() {
 
 QDBusConnection PrivateBus::connect() const {
     return QDBusConnection::connectToBus(address_, connectionName());
+}
+
+void PrivateBus::setPaused(bool paused) {
+    kill(static_cast<pid_t>(daemon_.processId()), paused ? SIGSTOP : SIGCONT);
 }
 
 /// Says where the accessibility bus is, and whether accessibility is on.

@@ -21,6 +21,9 @@ public:
     QString address() const { return address_; }
     QDBusConnection connect() const;
 
+    /// A paused bus takes messages and passes none on.
+    void setPaused(bool paused);
+
 private:
     QTemporaryDir folder_;
     QProcess daemon_;
@@ -38,6 +41,7 @@ public:
     FakeApplication& addApplication();
     void restartAccessibilityBus();
     void stopAccessibilityBus();
+    void pauseAccessibilityBus(bool paused) { accessibilityBus_->setPaused(paused); }
 
     void setEnabled(bool enabled);
     bool isEnabled() const;

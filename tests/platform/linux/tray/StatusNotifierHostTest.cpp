@@ -2,6 +2,7 @@
 
 #include "PrivateBus.h"
 
+#include <QElapsedTimer>
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -90,6 +91,16 @@ TEST_F(StatusNotifierHostTest, AWatcherAndAHostMayComeLateAndGoAgain) {
     EXPECT_TRUE(becomes(host, false));
     watcher = std::make_unique<Watcher>(bus, true);
     EXPECT_TRUE(becomes(host, true));
+}
+
+TEST_F(StatusNotifierHostTest, ABusThatStandsStillHoldsNobodyUp) {
+    const auto connection = bus.connect();
+    bus.setPaused(true);
+    QElapsedTimer timer;
+    timer.start();
+    const StatusNotifierHost host(connection);
+    EXPECT_LT(timer.elapsed(), 2000);
+    bus.setPaused(false);
 }
 
 TEST_F(StatusNotifierHostTest, WithoutABusThereIsNoHost) {
