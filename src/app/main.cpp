@@ -1,6 +1,7 @@
 #include "app/CorvaneQuilletApp.h"
 #include "app/LaunchArguments.h"
 #include "core/Log.h"
+#include "core/ProgramIdentity.h"
 #include "platform/Platform.h"
 #include "settings/AppSettingsManager.h"
 
@@ -31,8 +32,8 @@ int main(int argc, char** argv) {
         return EXIT_FAILURE;
     }
     QApplication::setApplicationName(QStringLiteral("Corvane Quillet"));
-    QApplication::setApplicationVersion(QStringLiteral(QUILLET_VERSION));
-    QApplication::setDesktopFileName(QStringLiteral("com.corvane.Quillet"));
+    QApplication::setApplicationVersion(core::programVersion());
+    QApplication::setDesktopFileName(core::programIdentifier());
     const QApplication application(argc, argv);
 
     const std::unique_ptr<platform::Platform> system = platform::makePlatform(std::move(instance));

@@ -1,5 +1,7 @@
 #include "platform/linux/LinuxSystemInfo.h"
 
+#include "core/ProgramIdentity.h"
+
 #include <QFile>
 #include <QSysInfo>
 #include <QVersionNumber>
@@ -12,15 +14,15 @@
 namespace platform {
 
 std::optional<QString> LinuxSystemInfo::bundleIdentifier() {
-    return QStringLiteral("com.corvane.Quillet");
+    return core::programIdentifier();
 }
 
 std::optional<QString> LinuxSystemInfo::marketingVersion() {
-    return QStringLiteral(QUILLET_VERSION);
+    return core::programVersion();
 }
 
 std::optional<QString> LinuxSystemInfo::buildNumber() {
-    return QStringLiteral(QUILLET_BUILD_NUMBER);
+    return core::programBuildNumber();
 }
 
 OperatingSystemVersion LinuxSystemInfo::operatingSystemVersion() {

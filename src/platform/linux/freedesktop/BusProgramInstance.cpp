@@ -1,6 +1,7 @@
 #include "platform/linux/freedesktop/BusProgramInstance.h"
 
 #include "core/Log.h"
+#include "core/ProgramIdentity.h"
 
 #include <QDBusError>
 
@@ -12,12 +13,13 @@ namespace platform {
 namespace {
 
 const QString& programName() {
-    static const QString name = QStringLiteral("com.corvane.Quillet");
+    static const QString name = core::programIdentifier();
     return name;
 }
 
+/// The desktop derives it from the name in the same way.
 const QString& programPath() {
-    static const QString path = QStringLiteral("/com/corvane/Quillet");
+    static const QString path = u'/' + core::programIdentifier().replace(u'.', u'/');
     return path;
 }
 

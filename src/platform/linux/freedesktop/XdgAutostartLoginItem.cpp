@@ -1,5 +1,6 @@
 #include "platform/linux/freedesktop/XdgAutostartLoginItem.h"
 
+#include "core/ProgramIdentity.h"
 #include "platform/linux/freedesktop/KeyFile.h"
 
 #include <QStandardPaths>
@@ -67,7 +68,7 @@ bool isSwitchedOff(const QByteArray& contents) {
 
 QString XdgAutostartLoginItem::defaultPath() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           QLatin1String("/autostart/com.corvane.Quillet.desktop");
+           QStringLiteral("/autostart/%1.desktop").arg(core::programIdentifier());
 }
 
 XdgAutostartLoginItem::XdgAutostartLoginItem(const QString& path, QString executable)
@@ -87,10 +88,10 @@ LoginItem::Error XdgAutostartLoginItem::registerItem() {
                                          "Name=Corvane Quillet\n"
                                          "Comment=A floating formatting bar for text editing\n"
                                          "Exec=%1\n"
-                                         "Icon=com.corvane.Quillet\n"
+                                         "Icon=%2\n"
                                          "Terminal=false\n"
                                          "X-GNOME-Autostart-enabled=true\n")
-                              .arg(execLine(executable_));
+                              .arg(execLine(executable_), core::programIdentifier());
     return entry_.replace(entry.toUtf8());
 }
 

@@ -8,7 +8,7 @@ namespace platform {
 /// Start at login as an autostart entry in the user's configuration.
 class XdgAutostartLoginItem final : public LoginItem {
 public:
-    /// `autostart/com.corvane.Quillet.desktop` in the user's configuration folder.
+    /// The entry named after the program, in `autostart/` of the user's configuration folder.
     static QString defaultPath();
 
     /// The entry's path and the program that it starts.

@@ -1,5 +1,7 @@
 #include "platform/linux/x11/ActiveWindow.h"
 
+#include "platform/linux/x11/WindowManager.h"
+
 namespace platform {
 
 namespace {
@@ -97,13 +99,11 @@ void ActiveWindow::readActiveWindow() {
 void ActiveWindow::readWindowManager() {
     // A window manager that died leaves its mark on the root window behind, but not the window
     // that the mark names. One that starts may mark the root window first: hence watch, then read.
-    managerSign_ = properties_.singleWindow(connection_.root(), "_NET_SUPPORTING_WM_CHECK")
-                       .value_or(XCB_WINDOW_NONE);
+    managerSign_ = windowManagerSign(connection_).value_or(XCB_WINDOW_NONE);
     managed_ = false;
     if (managerSign_ != XCB_WINDOW_NONE) {
         watch(managerSign_, XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE);
-        managed_ =
-            properties_.singleWindow(managerSign_, "_NET_SUPPORTING_WM_CHECK") == managerSign_;
+        managed_ = isLivingSign(connection_, managerSign_);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/linux/freedesktop/AccessibilitySettings.h"
 #include "platform/linux/x11/WindowApplications.h"
+#include "platform/linux/x11/WindowManager.h"
 
 #include <QDesktopServices>
 
@@ -9,14 +10,6 @@
 #include <utility>
 
 namespace platform {
-
-namespace {
-
-/// Of the requests to come to the front this is the kind that window managers grant at once,
-/// because it comes from the user.
-constexpr std::uint32_t fromTheUser = 2;
-
-} // namespace
 
 EwmhWorkspace::EwmhWorkspace(EwmhWindows& windows, DesktopEntryIndex& index, QString ownIdentifier)
     : windows_(windows)
@@ -84,22 +77,13 @@ void EwmhWorkspace::activateWindow(xcb_window_t window) {
     auto& connection = windows_.connection();
     const auto time = connection.serverTime();
     if (windows_.activeWindow().hasWindowManager()) {
-        xcb_client_message_event_t message{};
-        message.response_type = XCB_CLIENT_MESSAGE;
-        message.format = 32;
-        message.window = window;
-        message.type = connection.atom("_NET_ACTIVE_WINDOW");
-        message.data.data32[0] = fromTheUser;
-        message.data.data32[1] = time;
-        xcb_send_event(connection.get(), 0, connection.root(),
-                       XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-                       reinterpret_cast<const char*>(&message));
+        requestActivation(connection, connection.get(), window, time);
     } else {
         const std::uint32_t above = XCB_STACK_MODE_ABOVE;
         xcb_configure_window(connection.get(), window, XCB_CONFIG_WINDOW_STACK_MODE, &above);
         xcb_set_input_focus(connection.get(), XCB_INPUT_FOCUS_PARENT, window, time);
+        xcb_flush(connection.get());
     }
-    xcb_flush(connection.get());
 }
 
 bool EwmhWorkspace::openUrl(const QUrl& url) {

@@ -1,7 +1,7 @@
 #include "platform/linux/x11/X11WindowServer.h"
 
 #include "platform/linux/x11/StartupNotification.h"
-#include "platform/linux/x11/WindowProperties.h"
+#include "platform/linux/x11/WindowManager.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -78,18 +78,7 @@ void activateAsUser(XcbConnection& connection, xcb_window_t window, xcb_timestam
     if (toolkit == nullptr) {
         return;
     }
-    constexpr std::uint32_t fromTheUser = 2;
-    xcb_client_message_event_t message{};
-    message.response_type = XCB_CLIENT_MESSAGE;
-    message.format = 32;
-    message.window = window;
-    message.type = connection.atom("_NET_ACTIVE_WINDOW");
-    message.data.data32[0] = fromTheUser;
-    message.data.data32[1] = time;
-    xcb_send_event(toolkit->connection(), 0, connection.root(),
-                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-                   reinterpret_cast<const char*>(&message));
-    xcb_flush(toolkit->connection());
+    requestActivation(connection, toolkit->connection(), window, time);
 }
 
 } // namespace
@@ -162,11 +151,8 @@ void X11WindowServer::bringToFront(QWidget& window, const ActivationToken& token
 }
 
 bool X11WindowServer::hasWindowManager() {
-    const WindowProperties properties(*connection_);
-    constexpr const char* sign = "_NET_SUPPORTING_WM_CHECK";
-    const auto window = properties.singleWindow(connection_->root(), sign);
-    // The property of a manager that crashed stays behind; its window does not.
-    return window && properties.singleWindow(*window, sign) == window;
+    const auto sign = windowManagerSign(*connection_);
+    return sign && isLivingSign(*connection_, *sign);
 }
 
 bool X11WindowServer::hasTranslucency() {
