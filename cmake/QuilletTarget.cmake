@@ -19,8 +19,11 @@ if(QUILLET_WARNINGS_AS_ERRORS)
     target_compile_options(quillet_options INTERFACE -Werror)
 endif()
 if(QUILLET_SANITIZE)
+    # Only what this compiler compiles: the checks of the macOS sources have another one.
     target_compile_options(quillet_options INTERFACE
-        -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+        $<$<COMPILE_LANGUAGE:CXX>:-fsanitize=address,undefined>
+        $<$<COMPILE_LANGUAGE:CXX>:-fno-sanitize-recover=undefined>
+        -fno-omit-frame-pointer)
     target_link_options(quillet_options INTERFACE -fsanitize=address,undefined)
 endif()
 

@@ -1,0 +1,77 @@
+#include "platform/macos/NativeWindow.h"
+
+#include "platform/macos/Strong.hh"
+
+#include <AppKit/AppKit.h>
+
+namespace platform::nativeWindow {
+
+namespace {
+
+/// On this system a window's identifier in the toolkit is the address of its view.
+NSView* viewOf(WId view) {
+    return (__bridge NSView*)reinterpret_cast<void*>(view);
+}
+
+/// The view that blurs behind `content`: the one made before, or a new one.
+Strong<NSVisualEffectView*> effectBehind(NSView* content) {
+    NSView* frame = content.superview;
+    for (NSView* view in frame.subviews) {
+        if ([view isKindOfClass:[NSVisualEffectView class]]) {
+            return Strong<NSVisualEffectView*>(static_cast<NSVisualEffectView*>(view));
+        }
+    }
+    auto effect = Strong<NSVisualEffectView*>::adopt(
+        [[NSVisualEffectView alloc] initWithFrame:content.frame]);
+    effect.get().autoresizingMask = NSViewWidthSizable | NSViewHeightSizable;
+    [frame addSubview:effect.get() positioned:NSWindowBelow relativeTo:content];
+    return effect;
+}
+
+void roundCorners(NSView* view, double radius) {
+    view.wantsLayer = YES;
+    view.layer.cornerRadius = radius;
+    view.layer.masksToBounds = YES;
+}
+
+} // namespace
+
+void makeFloating(WId view) {
+    NSWindow* window = viewOf(view).window;
+    window.styleMask = NSWindowStyleMaskBorderless;
+    window.opaque = NO;
+    window.backgroundColor = [NSColor clearColor];
+    window.level = NSFloatingWindowLevel;
+    window.hasShadow = YES;
+    window.movable = NO;
+    window.collectionBehavior =
+        NSWindowCollectionBehaviorCanJoinAllSpaces | NSWindowCollectionBehaviorStationary;
+    // Of a window without a frame the shadow follows what is drawn, and that has just changed.
+    [window invalidateShadow];
+}
+
+void orderFront(WId view) {
+    [viewOf(view).window orderFront:nil];
+}
+
+void bringToFront(WId view) {
+    [viewOf(view).window makeKeyAndOrderFront:nil];
+    // The windows of an accessory stay behind the active application's unless it insists.
+    [[NSApplication sharedApplication] activateIgnoringOtherApps:YES];
+}
+
+void setMaterial(WId view, int material, int blendingMode, double cornerRadius) {
+    NSView* content = viewOf(view);
+    const auto effect = effectBehind(content);
+    effect.get().material = static_cast<NSVisualEffectMaterial>(material);
+    effect.get().blendingMode = static_cast<NSVisualEffectBlendingMode>(blendingMode);
+    effect.get().state = NSVisualEffectStateActive;
+    roundCorners(effect.get(), cornerRadius);
+    roundCorners(content, cornerRadius);
+}
+
+void becomeAccessory() {
+    [[NSApplication sharedApplication] setActivationPolicy:NSApplicationActivationPolicyAccessory];
+}
+
+} // namespace platform::nativeWindow

@@ -1,0 +1,295 @@
+#include "macos/fakes/cocoa/Objects.hh"
+
+#include <AppKit/AppKit.h>
+
+using cocoaFake::appKit;
+using cocoaFake::Effect;
+using cocoaFake::stateOf;
+using cocoaFake::toNSRect;
+using cocoaFake::Window;
+
+namespace {
+
+struct View {
+    NSRect frame{};
+    NSWindow* window = nil;
+    NSView* superview = nil;
+    NSMutableArray* subviews = nil;
+    CALayer* layer = nil;
+    NSAutoresizingMaskOptions autoresizingMask = 0;
+};
+
+NSView* viewOf(WId view) {
+    return reinterpret_cast<NSView*>(view);
+}
+
+} // namespace
+
+@implementation NSColor
++ (NSColor*)clearColor {
+    static NSColor* const clear = [[NSColor alloc] init];
+    return clear;
+}
+@end
+
+@implementation CALayer
+- (void)dealloc {
+    cocoaFake::states<Effect>().erase(self);
+    cocoaFake::died();
+    [super dealloc];
+}
+- (void)setCornerRadius:(CGFloat)radius {
+    stateOf<Effect>(self).cornerRadius = radius;
+}
+- (CGFloat)cornerRadius {
+    return stateOf<Effect>(self).cornerRadius;
+}
+- (void)setMasksToBounds:(BOOL)masks {
+    stateOf<Effect>(self).masksToBounds = masks;
+}
+- (BOOL)masksToBounds {
+    return stateOf<Effect>(self).masksToBounds;
+}
+@end
+
+@implementation NSResponder
+@end
+
+@implementation NSView
+- (id)initWithFrame:(NSRect)frame {
+    self = [super init];
+    cocoaFake::born();
+    stateOf<View>(self).frame = frame;
+    stateOf<View>(self).subviews = [[NSMutableArray alloc] init];
+    return self;
+}
+- (void)dealloc {
+    [stateOf<View>(self).subviews release];
+    [stateOf<View>(self).layer release];
+    cocoaFake::states<View>().erase(self);
+    cocoaFake::died();
+    [super dealloc];
+}
+- (NSRect)frame {
+    return stateOf<View>(self).frame;
+}
+- (NSWindow*)window {
+    return stateOf<View>(self).window;
+}
+- (NSView*)superview {
+    return stateOf<View>(self).superview;
+}
+- (NSArray*)subviews {
+    return stateOf<View>(self).subviews;
+}
+- (void)setWantsLayer:(BOOL)wants {
+    if (wants && stateOf<View>(self).layer == nil) {
+        cocoaFake::born();
+        stateOf<View>(self).layer = [[CALayer alloc] init];
+    }
+}
+- (CALayer*)layer {
+    return stateOf<View>(self).layer;
+}
+- (void)setAutoresizingMask:(NSAutoresizingMaskOptions)mask {
+    stateOf<View>(self).autoresizingMask = mask;
+}
+- (NSAutoresizingMaskOptions)autoresizingMask {
+    return stateOf<View>(self).autoresizingMask;
+}
+- (void)addSubview:(NSView*)view positioned:(NSWindowOrderingMode)place relativeTo:(NSView*)other {
+    NSMutableArray* const all = stateOf<View>(self).subviews;
+    const bool above = place == NSWindowAbove;
+    const NSUInteger index = other != nil ? [all indexOfObject:other] + (above ? 1 : 0)
+                             : above      ? [all count]
+                                          : 0;
+    [all insertObject:view atIndex:index];
+    stateOf<View>(view).superview = self;
+}
+@end
+
+@implementation NSVisualEffectView
+- (void)dealloc {
+    cocoaFake::states<Effect>().erase(self);
+    [super dealloc];
+}
+- (void)setMaterial:(NSVisualEffectMaterial)material {
+    stateOf<Effect>(self).material = material;
+}
+- (void)setBlendingMode:(NSVisualEffectBlendingMode)mode {
+    stateOf<Effect>(self).blendingMode = mode;
+}
+- (void)setState:(NSVisualEffectState)state {
+    stateOf<Effect>(self).state = state;
+}
+@end
+
+@implementation NSWindow
+- (void)dealloc {
+    cocoaFake::states<Window>().erase(self);
+    cocoaFake::died();
+    [super dealloc];
+}
+- (void)setStyleMask:(NSWindowStyleMask)mask {
+    stateOf<Window>(self).styleMask = mask;
+}
+- (void)setLevel:(NSWindowLevel)level {
+    stateOf<Window>(self).level = level;
+}
+- (void)setCollectionBehavior:(NSWindowCollectionBehavior)behavior {
+    stateOf<Window>(self).collectionBehavior = behavior;
+}
+- (void)setHasShadow:(BOOL)has {
+    stateOf<Window>(self).hasShadow = has;
+}
+- (void)setMovable:(BOOL)movable {
+    stateOf<Window>(self).movable = movable;
+}
+- (void)setOpaque:(BOOL)opaque {
+    stateOf<Window>(self).opaque = opaque;
+}
+- (void)setBackgroundColor:(NSColor*)color {
+    stateOf<Window>(self).clear = color == [NSColor clearColor];
+}
+- (void)invalidateShadow {
+    stateOf<Window>(self).shadowsComputed += 1;
+}
+- (void)orderFront:(id)sender {
+    stateOf<Window>(self).ordered.push_back(sender == nil ? "front" : "front with sender");
+}
+- (void)makeKeyAndOrderFront:(id)sender {
+    stateOf<Window>(self).ordered.push_back(sender == nil ? "key" : "key with sender");
+}
+@end
+
+@implementation NSPanel
+@end
+
+@implementation NSColorPanel
++ (NSColorPanel*)sharedColorPanel {
+    static NSColorPanel* const shared = [[NSColorPanel alloc] init];
+    return shared;
+}
+- (void)setMode:(NSColorPanelMode)mode {
+    appKit().colorPanelMode = mode;
+}
+- (NSRect)frame {
+    return toNSRect(appKit().colorPanelFrame);
+}
+- (void)setFrameOrigin:(NSPoint)origin {
+    appKit().colorPanelFrame.x = origin.x;
+    appKit().colorPanelFrame.y = origin.y;
+}
+@end
+
+@implementation NSScreen
++ (NSArray*)screens {
+    NSMutableArray* const all = [NSMutableArray array];
+    for (const auto& screen : appKit().screens) {
+        NSScreen* const made = [[[NSScreen alloc] init] autorelease];
+        stateOf<cocoaFake::Screen>(made) = screen;
+        [all addObject:made];
+    }
+    return all;
+}
++ (NSScreen*)mainScreen {
+    return appKit().mainScreen ? [[NSScreen screens] objectAtIndex:*appKit().mainScreen] : nil;
+}
+- (NSRect)frame {
+    return toNSRect(stateOf<cocoaFake::Screen>(self).frame);
+}
+- (NSRect)visibleFrame {
+    return toNSRect(stateOf<cocoaFake::Screen>(self).visibleFrame);
+}
+@end
+
+@implementation NSApplication
++ (NSApplication*)sharedApplication {
+    static NSApplication* const shared = [[NSApplication alloc] init];
+    return shared;
+}
+- (BOOL)setActivationPolicy:(NSApplicationActivationPolicy)policy {
+    appKit().activationPolicy = policy;
+    return YES;
+}
+- (void)activateIgnoringOtherApps:(BOOL)ignoring {
+    appKit().forward.push_back(ignoring);
+}
+@end
+
+namespace cocoaFake {
+
+namespace {
+int live = 0;
+}
+
+void born() {
+    ++live;
+}
+
+void died() {
+    --live;
+}
+
+int liveObjects() {
+    return live;
+}
+
+AppKit& appKit() {
+    static AppKit state;
+    return state;
+}
+
+Pool::Pool()
+    : pool_([[NSAutoreleasePool alloc] init]) {}
+
+Pool::~Pool() {
+    [static_cast<NSAutoreleasePool*>(pool_) release];
+}
+
+WId openWindow(const platform::Rect& frame) {
+    born();
+    NSWindow* const window = [[NSWindow alloc] init];
+    NSView* const border = [[NSView alloc] initWithFrame:toNSRect(frame)];
+    NSView* const content =
+        [[NSView alloc] initWithFrame:NSMakeRect(0, 0, frame.width, frame.height)];
+    [border addSubview:content positioned:NSWindowAbove relativeTo:nil];
+    [content release];
+    stateOf<View>(border).window = window;
+    stateOf<View>(content).window = window;
+    return reinterpret_cast<WId>(content);
+}
+
+void closeWindow(WId view) {
+    NSWindow* const window = viewOf(view).window;
+    [viewOf(view).superview release];
+    [window release];
+}
+
+const Window& windowOf(WId view) {
+    return stateOf<Window>(viewOf(view).window);
+}
+
+std::vector<Effect> effectsOf(WId view) {
+    std::vector<Effect> result;
+    NSArray* const siblings = viewOf(view).superview.subviews;
+    for (NSUInteger index = 0; index < [siblings count]; ++index) {
+        NSView* const sibling = [siblings objectAtIndex:index];
+        if ([sibling isKindOfClass:[NSVisualEffectView class]]) {
+            Effect effect = stateOf<Effect>(sibling);
+            effect.positionFromBack = index;
+            effect.cornerRadius = sibling.layer.cornerRadius;
+            effect.masksToBounds = sibling.layer.masksToBounds;
+            effect.frame = platform::toRect(sibling.frame);
+            effect.autoresizingMask = sibling.autoresizingMask;
+            result.push_back(effect);
+        }
+    }
+    return result;
+}
+
+std::pair<double, bool> contentCorners(WId view) {
+    return {viewOf(view).layer.cornerRadius, viewOf(view).layer.masksToBounds};
+}
+
+} // namespace cocoaFake
