@@ -1,13 +1,29 @@
 #pragma once
 
 #include <QLocale>
+#include <QString>
 #include <QStringView>
 
 namespace core {
 
-/// Whether `text` contains `searched`, ignoring case by the rules of `locale` and canonically
-/// equivalent spellings. Only whole user-perceived characters match: é does not contain e.
-/// An empty search matches nothing.
+/// Looks for one text in others, ignoring case by the rules of a language. Only whole characters
+/// match, as a reader counts them: "e" is not in "é". An empty text is in none.
+class LocalizedSearch {
+public:
+    explicit LocalizedSearch(QStringView searched, const QLocale& locale = QLocale());
+
+    bool isIn(QStringView text) const;
+
+private:
+    QString folded(QStringView text) const;
+
+    QLocale locale_;
+    /// Whether the language has rules of its own for the letters of ASCII, as Turkish has.
+    bool hasOwnRules_;
+    QString part_;
+};
+
+/// The same for a single text.
 bool localizedCaseInsensitiveContains(QStringView text, QStringView searched,
                                       const QLocale& locale = QLocale());
 

@@ -78,10 +78,10 @@ std::vector<AppInfo> filteredApps(const std::vector<AppInfo>& apps, const QStrin
     if (searchText.isEmpty()) {
         return apps;
     }
+    const core::LocalizedSearch search(searchText);
     std::vector<AppInfo> matching;
     std::copy_if(apps.begin(), apps.end(), std::back_inserter(matching), [&](const AppInfo& app) {
-        return core::localizedCaseInsensitiveContains(app.name, searchText) ||
-               core::localizedCaseInsensitiveContains(app.bundleIdentifier, searchText);
+        return search.isIn(app.name) || search.isIn(app.bundleIdentifier);
     });
     return matching;
 }
