@@ -13,8 +13,12 @@ constexpr const char* selectedProperty = "quilletAccessiblySelected";
 
 class RoleAccessible final : public QAccessibleWidget {
 public:
-    RoleAccessible(QWidget& widget, QAccessible::Role role)
-        : QAccessibleWidget(&widget, role) {}
+    explicit RoleAccessible(QWidget& widget)
+        : QAccessibleWidget(&widget) {}
+
+    QAccessible::Role role() const override {
+        return static_cast<QAccessible::Role>(widget()->property(roleProperty).toInt());
+    }
 
     QAccessible::State state() const override {
         QAccessible::State state = QAccessibleWidget::state();
@@ -66,9 +70,8 @@ private:
 
 QAccessibleInterface* create(const QString&, QObject* object) {
     auto* widget = qobject_cast<QWidget*>(object);
-    const QVariant role = object->property(roleProperty);
-    return widget != nullptr && role.isValid()
-               ? new RoleAccessible(*widget, static_cast<QAccessible::Role>(role.toInt()))
+    return widget != nullptr && object->property(roleProperty).isValid()
+               ? new RoleAccessible(*widget)
                : nullptr;
 }
 

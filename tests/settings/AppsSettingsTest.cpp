@@ -1,0 +1,204 @@
+#include "SettingsFixture.h"
+
+#include "ui/LazyList.h"
+
+#include <QAbstractButton>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QTest>
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::ElementsAre;
+
+const QString everywhere = QStringLiteral("Enable for all applications");
+const QString explanation = QStringLiteral("Select which apps should show the formatting bar:");
+const QString search = QStringLiteral("Search apps...");
+
+class AppsSettings : public SettingsFixture {
+protected:
+    void install(const QString& name) {
+        const QString folder = QStringLiteral("/Applications");
+        fake_.applicationBundles.add(folder, name + QStringLiteral(".app"),
+                                     {QStringLiteral("org.example.") + name, name, name});
+    }
+    /// The Apps tab with its list.
+    void openList() {
+        store_.useAllApps = false;
+        open();
+        openTab(QStringLiteral("Apps"));
+    }
+    ui::LazyList& list() const { return *window_->findChild<ui::LazyList*>(); }
+    /// The names of the rows that exist, from the top.
+    std::vector<std::string> rows() const {
+        std::vector<std::string> names;
+        const ui::LazyList& all = list();
+        for (int index = 0; index < 5000; ++index) {
+            if (const QWidget* row = all.row(index)) {
+                names.push_back(row->accessibleName().toStdString());
+            }
+        }
+        return names;
+    }
+    QStringList allowed() const { return store_.allowedApps; }
+};
+
+} // namespace
+
+TEST_F(AppsSettings, ShowTheListOnlyWhileTheUserChooses) {
+    install(QStringLiteral("Mail"));
+    open();
+    openTab(QStringLiteral("Apps"));
+    const QStringList choosing{explanation, search, QStringLiteral("1 app(s) selected")};
+    const auto shown = [&] {
+        return std::ranges::count_if(choosing, [&](const QString& name) { return shows(name); });
+    };
+    EXPECT_EQ(shown(), 0);
+    EXPECT_FALSE(list().isVisible());
+    const int top = place(everywhere).top();
+    click(everywhere);
+    EXPECT_FALSE(store_.useAllApps);
+    EXPECT_EQ(shown(), 3);
+    EXPECT_THAT(rows(), ElementsAre("Mail"));
+    EXPECT_EQ(place(everywhere).top(), top);
+    click(everywhere);
+    EXPECT_EQ(shown(), 0);
+    EXPECT_EQ(allowed(), QStringList{QStringLiteral("com.apple.Notes")});
+}
+
+TEST_F(AppsSettings, EachWayToFlipARowDoesItOnce) {
+    install(QStringLiteral("Mail"));
+    install(QStringLiteral("Maps"));
+    openList();
+    const QString mail = QStringLiteral("org.example.Mail");
+    std::vector<qsizetype> counts;
+    const auto changes =
+        store_.allowedApps.observe([&](const auto& next) { counts.push_back(next.size()); });
+
+    click(mail); // the row, where its identifier stands
+    EXPECT_TRUE(shows(QStringLiteral("2 app(s) selected")));
+    const auto* control = list().row(0)->findChild<QAbstractButton*>();
+    EXPECT_TRUE(control->isChecked());
+    click(QRect(control->mapTo(window_.get(), QPoint()), control->size()).center());
+    EXPECT_FALSE(control->isChecked());
+    list().setFocus();
+    press({Qt::Key_Down});
+    press({Qt::Key_Return});
+    EXPECT_EQ(allowed().back(), QStringLiteral("org.example.Maps"));
+    press({Qt::Key_Up});
+    press({Qt::Key_Space});
+    EXPECT_EQ(allowed().back(), mail);
+    EXPECT_THAT(counts, ElementsAre(2, 1, 2, 3));
+    EXPECT_TRUE(shows(QStringLiteral("3 app(s) selected")));
+
+    store_.removeApp(mail); // from elsewhere
+    EXPECT_FALSE(control->isChecked());
+}
+
+TEST_F(AppsSettings, TypingFiltersAtOnceAndTheTextStaysWhileOtherTabsAreOpen) {
+    for (const char* name : {"Mail", "Calendar", "Maps"}) {
+        install(QString::fromLatin1(name));
+    }
+    openList();
+    EXPECT_THAT(rows(), ElementsAre("Calendar", "Mail", "Maps"));
+    click(search);
+    type(QStringLiteral("ma"));
+    EXPECT_THAT(rows(), ElementsAre("Mail", "Maps"));
+    openTab(QStringLiteral("Behavior"));
+    openTab(QStringLiteral("Apps"));
+    EXPECT_EQ(dynamic_cast<QLineEdit&>(part(search)).text(), QStringLiteral("ma"));
+    EXPECT_THAT(rows(), ElementsAre("Mail", "Maps"));
+    click(search);
+    type(QStringLiteral("x"));
+    EXPECT_THAT(rows(), ElementsAre());
+    for (int i = 0; i < 3; ++i) {
+        press({Qt::Key_Backspace});
+    }
+    EXPECT_THAT(rows(), ElementsAre("Calendar", "Mail", "Maps"));
+}
+
+TEST_F(AppsSettings, AreLookedForEachTimeTheWindowIsShown) {
+    install(QStringLiteral("Mail"));
+    openList();
+    install(QStringLiteral("Maps"));
+    window_->close();
+    window_->show();
+    EXPECT_THAT(rows(), ElementsAre("Mail"));
+    fake_.runLoop.finishBackgroundWork();
+    EXPECT_THAT(rows(), ElementsAre("Mail", "Maps"));
+    EXPECT_TRUE(list().isVisible()); // the tab that was open still is
+}
+
+TEST_F(AppsSettings, AScanMayEndAfterTheWindowIsGone) {
+    install(QStringLiteral("Mail"));
+    openList();
+    window_->close();
+    window_->show();
+    window_.reset();
+    fake_.runLoop.finishBackgroundWork();
+    EXPECT_EQ(fake_.userDefaults.writes.back(), QStringLiteral("useAllApps"));
+}
+
+TEST_F(AppsSettings, OfFiveThousandOnlyThoseInSightHaveRows) {
+    for (int number = 0; number < 5000; ++number) {
+        install(QStringLiteral("App %1").arg(number, 4, 10, QLatin1Char('0')));
+    }
+    openList();
+    EXPECT_LT(rows().size(), 10U);
+    EXPECT_EQ(rows().front(), "App 0000");
+    list().setFocus();
+    press({Qt::Key_End});
+    EXPECT_EQ(rows().back(), "App 4999");
+    press({Qt::Key_Space});
+    EXPECT_EQ(allowed().back(), QStringLiteral("org.example.App 4999"));
+    for (int i = 0; i < 3; ++i) {
+        press({Qt::Key_PageUp});
+    }
+    press({Qt::Key_Home});
+    EXPECT_EQ(rows().front(), "App 0000");
+    QScrollBar& bar = *list().verticalScrollBar();
+    for (int value = 0; value <= bar.maximum(); value += 997) {
+        bar.setValue(value);
+        ASSERT_LT(rows().size(), 10U) << value;
+    }
+    click(search);
+    type(QStringLiteral("12"));
+    EXPECT_EQ(bar.value(), 0);
+    EXPECT_EQ(rows().front(), "App 0012");
+}
+
+TEST_F(AppsSettings, StandWhereTheyBelong) {
+    install(QStringLiteral("Mail"));
+    openList();
+    constexpr int padding = 16;
+    const QRect page(0, 0, 500, 450);
+    const QRect text = place(explanation);
+    const QRect field = place(search);
+    const QRect all(list().mapTo(window_.get(), QPoint()), list().size());
+    const QRect count = place(QStringLiteral("1 app(s) selected"));
+    for (const QRect& part : {place(everywhere), text, field, count}) {
+        EXPECT_EQ(part.left(), padding);
+    }
+    EXPECT_EQ(field.right(), page.right() - padding);
+    EXPECT_EQ(all.left(), page.left());
+    EXPECT_EQ(all.right(), page.right());
+    EXPECT_EQ(field.top(), text.bottom() + 1 + padding);
+    EXPECT_EQ(all.top(), field.bottom() + 1 + padding);
+    EXPECT_EQ(count.top(), all.bottom() + 1 + padding);
+    EXPECT_EQ(count.bottom(), page.bottom() - padding);
+    EXPECT_EQ(place(QStringLiteral("icon")).size(), QSize(24, 24));
+}
+
+TEST_F(AppsSettings, AnApplicationWithoutAPictureHasTheSymbolOfAnyApplication) {
+    fake_.applicationIcons.found = false;
+    install(QStringLiteral("Pictureless"));
+    openList();
+    // Pictures are fetched one by one, after the rows were drawn.
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        const auto parts = part(QStringLiteral("icon")).findChildren<QWidget*>();
+        return !parts.isEmpty() && parts.front()->isVisible();
+    }));
+    EXPECT_EQ(fake_.applicationIcons.asked,
+              std::vector{QStringLiteral("/Applications/Pictureless.app")});
+}

@@ -1,0 +1,184 @@
+#include "SettingsFixture.h"
+
+#include "settings/views/ShortcutRecorderButton.h"
+#include "settings/views/ShortcutRecorderNSView.h"
+#include "ui/Theme.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QPainter>
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::ElementsAre;
+
+constexpr quint32 aKey = 30;
+const QString prompt = QStringLiteral("Press keys...");
+const QString recorder = QStringLiteral("Keyboard shortcut");
+
+/// Counts the key presses that nothing in the window took.
+class KeyCounter final : public QObject {
+public:
+    explicit KeyCounter(QObject& window)
+        : QObject(&window) {
+        window.installEventFilter(this);
+    }
+    bool eventFilter(QObject*, QEvent* event) override {
+        presses += event->type() == QEvent::KeyPress;
+        return false;
+    }
+    int presses = 0;
+};
+
+class ShortcutRecorder : public SettingsFixture {
+protected:
+    ShortcutRecorder() {
+        store_.useKeyboardShortcut = true;
+        fake_.keyPositions = {{aKey, 0}, {48, 11}, {15, 48}, {1, 53},    {28, 36},
+                              {57, 49},  {27, 30}, {45, 40}, {105, 123}, {67, 96}};
+        open();
+    }
+
+    std::pair<std::uint16_t, std::uint64_t> stored() const {
+        return {store_.shortcutKeyCode, store_.shortcutModifiers};
+    }
+    QColor pixel(QPoint point) const { return part(recorder).grab().toImage().pixelColor(point); }
+};
+
+} // namespace
+
+TEST_F(ShortcutRecorder, TakesWhicheverKeyComesWithAModifierAndNoOther) {
+    struct Row {
+        Key key;
+        std::pair<std::uint16_t, std::uint64_t> stored;
+        const char* shown;
+    };
+    const Qt::KeyboardModifiers all =
+        Qt::ShiftModifier | Qt::MetaModifier | Qt::AltModifier | Qt::ControlModifier;
+    const std::vector<Row> rows{
+        {{Qt::Key_A, Qt::ShiftModifier, aKey}, {0, 0x20000}, "⇧A"},
+        {{Qt::Key_B, all & ~Qt::ShiftModifier, 48}, {11, 0x1C0000}, "^⌥⌘B"},
+        {{Qt::Key_B, all, 48}, {11, 0x1E0000}, "^⌥⇧⌘B"},
+        {{Qt::Key_Tab, Qt::ControlModifier, 15}, {48, 0x100000}, "⌘Tab"},
+        {{Qt::Key_Backtab, Qt::ShiftModifier, 15}, {48, 0x20000}, "⇧Tab"},
+        {{Qt::Key_Escape, Qt::ControlModifier, 1}, {53, 0x100000}, "⌘Esc"},
+        {{Qt::Key_Return, Qt::AltModifier, 28}, {36, 0x80000}, "⌥Return"},
+        {{Qt::Key_Space, Qt::MetaModifier, 57}, {49, 0x40000}, "^Space"},
+        {{Qt::Key_Left, Qt::ControlModifier, 105}, {123, 0x100000}, "⌘?"},
+        {{Qt::Key_BracketRight, Qt::ControlModifier, 27}, {30, 0x100000}, "⌘?"},
+        {{Qt::Key_F5, Qt::ControlModifier | Qt::KeypadModifier, 67}, {96, 0x100000}, "⌘F5"},
+    };
+    const KeyCounter window(*window_);
+    for (const Row& row : rows) {
+        const auto before = stored();
+        click(recorder);
+        ASSERT_TRUE(shows(prompt)) << row.shown;
+        press({row.key.key, {}, row.key.scanCode});
+        press({Qt::Key_Shift, Qt::ShiftModifier, aKey});    // a modifier alone, wherever it is
+        press({Qt::Key_Launch0, Qt::ControlModifier, 999}); // a key without a position
+        EXPECT_TRUE(shows(prompt)) << row.shown;
+        EXPECT_EQ(stored(), before) << row.shown;
+
+        press(row.key);
+        EXPECT_EQ(stored(), row.stored) << row.shown;
+        EXPECT_FALSE(shows(prompt)) << row.shown;
+        EXPECT_TRUE(shows(QString::fromUtf8(row.shown))) << row.shown;
+        EXPECT_EQ(part(recorder).accessibleDescription(), QString::fromUtf8(row.shown));
+    }
+    EXPECT_EQ(window.presses, 0);
+}
+
+TEST_F(ShortcutRecorder, PassesKeysOnWhileIdleButNoModifierAlone) {
+    click(recorder);
+    press({Qt::Key_A, Qt::ControlModifier, aKey});
+    const KeyCounter window(*window_);
+    press({Qt::Key_Shift, Qt::ShiftModifier});
+    EXPECT_EQ(window.presses, 0);
+    press({Qt::Key_A, Qt::ShiftModifier, aKey});
+    press({Qt::Key_Escape});
+    EXPECT_EQ(window.presses, 2);
+    EXPECT_EQ(stored(), std::pair(std::uint16_t{0}, std::uint64_t{0x100000}));
+}
+
+TEST_F(ShortcutRecorder, WritesTheKeyThenTheModifiersThenThatItIsDone) {
+    const auto isRecording = ui::state(false);
+    window_->setContent(
+        settings::ShortcutRecorderButton{store_, ui::binding(store_.shortcutKeyCode),
+                                         ui::binding(store_.shortcutModifiers), isRecording});
+    QCoreApplication::processEvents(); // it is shown from the event loop
+    click(recorder);
+    std::vector<std::string> order;
+    const auto key = store_.shortcutKeyCode.observe([&](auto) { order.push_back("key"); });
+    const auto flags = store_.shortcutModifiers.observe([&](auto) { order.push_back("flags"); });
+    const auto done = isRecording->observe([&](bool on) { order.push_back(on ? "on" : "done"); });
+    press({Qt::Key_A, Qt::ControlModifier, aKey});
+    EXPECT_THAT(order, ElementsAre("key", "flags", "done"));
+    EXPECT_TRUE(shows(QStringLiteral("⌘A")));
+}
+
+TEST_F(ShortcutRecorder, ASecondClickCallsItOff) {
+    const auto before = stored();
+    const auto writes = fake_.userDefaults.writes.size();
+    click(recorder);
+    click(recorder);
+    press({Qt::Key_A, Qt::ControlModifier, aKey});
+    EXPECT_TRUE(shows(QStringLiteral("⌥⌘F")));
+    EXPECT_EQ(stored(), before);
+    EXPECT_EQ(fake_.userDefaults.writes.size(), writes);
+}
+
+TEST_F(ShortcutRecorder, GoesOnRecordingAfterTheModeWasSwitchedAwayAndBack) {
+    click(recorder);
+    click(QStringLiteral("Automatically on text selection"));
+    EXPECT_FALSE(shows(recorder));
+    press({Qt::Key_A, Qt::ControlModifier, aKey});
+    EXPECT_EQ(store_.shortcutKeyCode, 3);
+    click(QStringLiteral("With keyboard shortcut"));
+    ASSERT_TRUE(shows(prompt));
+    press({Qt::Key_A, Qt::ControlModifier, aKey});
+    EXPECT_EQ(store_.shortcutKeyCode, 0);
+    EXPECT_TRUE(shows(QStringLiteral("⌘A")));
+}
+
+TEST_F(ShortcutRecorder, HasTheAccentWhileRecording) {
+    using ui::Color;
+    const auto shown = [&](Color ground, ui::Tint tint) {
+        QImage image(1, 1, QImage::Format_ARGB32);
+        image.fill(ui::color({ground}, window_->palette()));
+        QPainter(&image).fillRect(0, 0, 1, 1, ui::color(tint, window_->palette()));
+        return image.pixelColor(0, 0);
+    };
+    const auto isLike = [](const QColor& seen, const QColor& wanted) {
+        return std::abs(seen.red() - wanted.red()) <= 2 &&
+               std::abs(seen.green() - wanted.green()) <= 2 &&
+               std::abs(seen.blue() - wanted.blue()) <= 2;
+    };
+    const int middle = part(recorder).height() / 2;
+    const QPoint edge(0, middle);
+    const QPoint inside(4, middle);
+    const auto looksIdle = [&] {
+        return isLike(pixel(inside), shown(Color::ControlBackground, {})) &&
+               isLike(pixel(edge), shown(Color::ControlBackground, {Color::Separator}));
+    };
+    EXPECT_TRUE(looksIdle());
+    click(recorder);
+    EXPECT_TRUE(isLike(pixel(inside), shown(Color::WindowBackground, {Color::Accent, 0.2})));
+    EXPECT_TRUE(isLike(pixel(edge), shown(Color::WindowBackground, {Color::Accent})));
+    click(recorder);
+    EXPECT_TRUE(looksIdle());
+}
+
+TEST_F(ShortcutRecorder, IsAsLargeAsItsTextWithPaddingAndKeepsTheKeysViewUnseen) {
+    const QRect button = place(recorder);
+    const QRect text = place(QStringLiteral("⌥⌘F"));
+    EXPECT_EQ(button.width(), 124);
+    EXPECT_EQ(button.height(), text.height() + 12);
+    EXPECT_EQ(button.center(), text.center());
+    const auto children = part(recorder).findChildren<QWidget*>();
+    const auto view = std::ranges::find_if(children, [](const QWidget* widget) {
+        return dynamic_cast<const settings::ShortcutRecorderNSView*>(widget) != nullptr;
+    });
+    ASSERT_NE(view, children.end());
+    EXPECT_EQ((*view)->size(), QSize(0, 0));
+}

@@ -1,0 +1,128 @@
+#include "fakes/FakePlatform.h"
+#include "ui/Label.h"
+#include "ui/List.h"
+#include "ui/RadioGroup.h"
+#include "ui/Slider.h"
+#include "ui/Stack.h"
+#include "ui/TitledWindow.h"
+#include "ui/Toggle.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QTest>
+#include <QWindow>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using testing::ElementsAre;
+
+QAccessibleInterface& accessible(QWidget& widget) {
+    return *QAccessible::queryAccessibleInterface(&widget);
+}
+
+/// A window with one control in it.
+class Controls : public testing::Test {
+protected:
+    void show(ui::Element control) {
+        window_.setContent(std::move(control));
+        window_.show();
+        window_.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
+    }
+    template <typename Widget>
+    Widget& only() const {
+        return *window_.findChild<Widget*>();
+    }
+    void press(Qt::Key key) { QTest::keyClick(window_.windowHandle(), key); }
+    bool isRinged(const QWidget& control) {
+        const QPoint outside = control.mapTo(&window_, QPoint(-2, control.height() / 2));
+        return window_.grab().toImage().pixelColor(outside) !=
+               ui::color({ui::Color::WindowBackground}, window_.palette());
+    }
+
+    fakes::FakePlatform fake_;
+    ui::TitledWindow window_{QStringLiteral("Controls"), QSize(300, 200)};
+};
+
+TEST_F(Controls, AreRingedWhenTheKeyboardCameByAKey) {
+    const auto isOn = ui::state(false);
+    show(ui::vstack({.spacing = 20}, ui::toggle(QStringLiteral("First"), isOn),
+                    ui::toggle(QStringLiteral("Second"), isOn)));
+    const auto switches = window_.findChildren<QAbstractButton*>();
+    QTest::mouseClick(switches[0], Qt::LeftButton);
+    EXPECT_TRUE(switches[0]->hasFocus());
+    EXPECT_FALSE(isRinged(*switches[0]));
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(isRinged(*switches[1]));
+    press(Qt::Key_Backtab);
+    EXPECT_FALSE(isRinged(*switches[1]));
+    EXPECT_TRUE(isRinged(*switches[0]));
+}
+
+TEST_F(Controls, RadioButtonsFollowArrowsAndTheirValue) {
+    const auto value = ui::state(false);
+    std::vector<bool> chosen;
+    const auto changes = value->observe([&](bool next) { chosen.push_back(next); });
+    show(ui::radioGroup(QStringLiteral("Title"), value,
+                        {{QStringLiteral("No"), false}, {QStringLiteral("Yes"), true}}));
+    const auto buttons = window_.findChildren<QAbstractButton*>();
+    buttons[0]->setFocus();
+    press(Qt::Key_Down);
+    press(Qt::Key_Up);
+    press(Qt::Key_Space); // chosen already
+    EXPECT_THAT(chosen, ElementsAre(true, false));
+    value->set(true);
+    EXPECT_TRUE(buttons[1]->isChecked());
+    EXPECT_FALSE(buttons[0]->isChecked());
+}
+
+TEST_F(Controls, ASwitchThatAssistiveTechnologyFlipsAsksItsOwnerOnce) {
+    const auto isOn = ui::state(false);
+    int flips = 0;
+    show(ui::switchControl(QStringLiteral("Refusing"), isOn, [&] { ++flips; }));
+    auto& control = only<QAbstractButton>();
+    accessible(control).actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_EQ(flips, 1);
+    EXPECT_FALSE(control.isChecked()); // its owner did not agree
+    QTest::mouseClick(&control, Qt::LeftButton);
+    EXPECT_EQ(flips, 2);
+    isOn->set(true);
+    EXPECT_TRUE(control.isChecked());
+    EXPECT_EQ(flips, 2);
+}
+
+TEST_F(Controls, ASliderThatAssistiveTechnologySetsGoesToTheNearestStop) {
+    const auto value = ui::state(0.5);
+    show(ui::slider(value, {.maximum = 2.0, .accessibilityLabel = QStringLiteral("Delay")}));
+    auto& slider = *window_.findChild<QWidget*>();
+    QAccessibleInterface& interface = accessible(slider);
+    EXPECT_EQ(interface.role(), QAccessible::Slider);
+    QAccessibleValueInterface& range = *interface.valueInterface();
+    EXPECT_EQ(range.maximumValue(), 2.0);
+    for (const auto& [asked, stop] : {std::pair(1.74, 1.7), {9.0, 2.0}, {-1.0, 0.0}}) {
+        range.setCurrentValue(asked);
+        EXPECT_EQ(value->get(), stop);
+        EXPECT_EQ(range.currentValue(), stop);
+    }
+    slider.setEnabled(false);
+    range.setCurrentValue(1.0);
+    EXPECT_EQ(value->get(), 0.0);
+}
+
+TEST_F(Controls, AListTellsWhatItIsWhateverItsRowsAre) {
+    const auto items = ui::state(std::vector{QStringLiteral("a"), QStringLiteral("b")});
+    show(ui::list<QString>(items, {.accessibilityLabel = QStringLiteral("Letters"),
+                                   .row = [](const QString& item) { return ui::text(item); },
+                                   .name = [](const QString& item) { return item; },
+                                   .activate = [](const QString&) {}}));
+    auto& list = only<ui::LazyList>();
+    QAccessibleInterface& interface = accessible(*list.viewport());
+    EXPECT_EQ(interface.role(), QAccessible::List);
+    EXPECT_EQ(interface.text(QAccessible::Name), QStringLiteral("Letters"));
+    EXPECT_EQ(accessible(*list.row(1)).role(), QAccessible::ListItem);
+    EXPECT_EQ(accessible(*list.row(1)).text(QAccessible::Name), QStringLiteral("b"));
+}
+
+} // namespace
