@@ -38,11 +38,11 @@ std::optional<QByteArray> pngRepresentation(const QImage& image) {
 }
 
 QImage smaller(const QImage& image) {
-    const bool fits = image.width() <= largestPreview.width() &&
-                      image.height() <= largestPreview.height();
-    return image.isNull() || fits ? image
-                                  : image.scaled(largestPreview, Qt::KeepAspectRatio,
-                                                 Qt::SmoothTransformation);
+    const bool fits =
+        image.width() <= largestPreview.width() && image.height() <= largestPreview.height();
+    return image.isNull() || fits
+               ? image
+               : image.scaled(largestPreview, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 
 /// co_await wait(…) goes on from the main queue.

@@ -41,8 +41,8 @@ Binding<T> keptBy(Binding<T> value, Sources sources) {
 template <typename T, typename Make>
 auto mapped(Binding<T> source, Make make) {
     auto result = state(make(source->get()));
-    auto observation = source->observe(
-        [result = result.get(), make](const T& next) { result->set(make(next)); });
+    auto observation =
+        source->observe([result = result.get(), make](const T& next) { result->set(make(next)); });
     return keptBy(std::move(result), std::tuple(std::move(source), std::move(observation)));
 }
 

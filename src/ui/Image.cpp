@@ -41,8 +41,7 @@ protected:
         painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
         // As a brush its corners are smooth, which a clip's are not.
         const QSize pixels = place.size() * devicePixelRatioF();
-        QBrush brush(
-            picture_.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        QBrush brush(picture_.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
         brush.setTransform(QTransform::fromScale(double(place.width()) / pixels.width(),
                                                  double(place.height()) / pixels.height()));
         painter.fillPath(RoundedRectangle{options_.cornerRadius}.path(place), brush);

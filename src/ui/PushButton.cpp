@@ -42,7 +42,7 @@ protected:
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setOpacity(isEnabled() ? 1 : 0.4);
-        const bool prominent = style_ == ButtonStyle::Prominent;
+        const bool prominent = style_ == ButtonStyle::Prominent && isEnabled();
         const QRectF bezel(rect());
         painter.fillPath(shape.path(bezel),
                          color({prominent ? Color::Accent : Color::ControlFace}, palette()));

@@ -2,15 +2,28 @@
 
 #include "ui/ScrollBar.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QLayout>
 #include <QPropertyAnimation>
+#include <QTimer>
+
+#include <algorithm>
 
 namespace ui {
 
 namespace {
 
 constexpr int animationTime = 200; // milliseconds
+
+ScrollArea* areaAround(const QWidget& widget) {
+    for (auto* around = widget.parentWidget(); around; around = around->parentWidget()) {
+        if (auto* area = dynamic_cast<ScrollArea*>(around)) {
+            return area;
+        }
+    }
+    return nullptr;
+}
 
 } // namespace
 
@@ -31,6 +44,7 @@ ScrollArea::ScrollArea(Element content)
     connect(verticalScrollBar(), &QScrollBar::valueChanged, &indicator_, &QScrollBar::setValue);
     connect(&indicator_, &QScrollBar::valueChanged, verticalScrollBar(), &QScrollBar::setValue);
     followScrollBar();
+    followFocus();
 }
 
 QSize ScrollArea::sizeHint() const {
@@ -40,8 +54,38 @@ QSize ScrollArea::sizeHint() const {
 void ScrollArea::centre(const QWidget& target) {
     widget()->layout()->activate();
     const int middle = target.mapTo(widget(), target.rect().center()).y();
+    scrollTo(middle - viewport()->height() / 2);
+}
+
+void ScrollArea::reveal(const QWidget& target) {
+    constexpr int around = 16;
+    settleLayouts(target);
+    const int top = target.mapTo(widget(), QPoint(0, 0)).y() - around;
+    const int bottom = top + target.height() + 2 * around;
+    const int shown = verticalScrollBar()->value();
+    scrollTo(std::min(std::max(shown, bottom - viewport()->height()), top));
+}
+
+void ScrollArea::settleLayouts(const QWidget& target) {
+    for (auto* around = target.parentWidget(); around != viewport();
+         around = around->parentWidget()) {
+        QCoreApplication::sendPostedEvents(around, QEvent::LayoutRequest);
+    }
+}
+
+void ScrollArea::followFocus() {
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        // What was clicked is in sight.
+        if (now != nullptr && widget()->isAncestorOf(now) &&
+            QGuiApplication::mouseButtons() == Qt::NoButton) {
+            reveal(*now);
+        }
+    });
+}
+
+void ScrollArea::scrollTo(int wanted) {
     QScrollBar& bar = *verticalScrollBar();
-    const int value = qBound(bar.minimum(), middle - viewport()->height() / 2, bar.maximum());
+    const int value = qBound(bar.minimum(), wanted, bar.maximum());
     delete bar.findChild<QPropertyAnimation*>();
     if (!isVisible()) {
         bar.setValue(value);
@@ -74,6 +118,15 @@ void ScrollArea::followScrollBar() {
     indicator_.setPageStep(bar.pageStep());
     indicator_.setSingleStep(bar.singleStep());
     indicator_.setVisible(bar.maximum() > bar.minimum());
+}
+
+void revealLater(QWidget& widget) {
+    // What changes together with it has not been laid out yet.
+    QTimer::singleShot(0, &widget, [&widget] {
+        if (auto* area = areaAround(widget); area != nullptr && widget.isVisible()) {
+            area->reveal(widget);
+        }
+    });
 }
 
 Element scrollView(Element content) {

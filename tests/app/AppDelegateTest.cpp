@@ -6,10 +6,13 @@
 #include "monitor/NotesAutomation.h"
 #include "monitor/NotesMonitor.h"
 #include "settings/AppSettingsManager.h"
+#include "ui/TitledWindow.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QMenu>
+#include <QPlainTextEdit>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -226,6 +229,30 @@ TEST_F(AppDelegateTest, TerminationStopsThePollAndHidesTheBar) {
 TEST_F(AppDelegateTest, TerminationBeforeTheLaunchDoesNothing) {
     delegate->applicationWillTerminate();
     EXPECT_TRUE(fakes.record.empty());
+}
+
+TEST_F(AppDelegateTest, EveryOpeningOfTheFeedbackFormStartsEmptyInTheSameWindow) {
+    launch();
+    EXPECT_EQ(delegate->feedbackWindow(), nullptr);
+    entry(9).trigger();
+    const ui::TitledWindow* window = delegate->feedbackWindow();
+    ASSERT_NE(window, nullptr);
+    EXPECT_EQ(window->windowTitle(), u"Feedback senden");
+    EXPECT_EQ(window->size(), QSize(540, 540));
+    EXPECT_EQ(count("bring to front"), 1);
+    window->findChild<QPlainTextEdit*>()->setPlainText(QStringLiteral("half a thought"));
+    QTest::mouseClick(window->findChildren<QPushButton*>().front(), Qt::LeftButton);
+    EXPECT_FALSE(window->isVisible());
+
+    core::NotificationCenter::defaultCenter().post(QStringLiteral("showFeedbackSheet"));
+    EXPECT_EQ(delegate->feedbackWindow(), window);
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(window->findChild<QPlainTextEdit*>()->toPlainText(), QString());
+    EXPECT_EQ(count("bring to front"), 2);
+    const auto texts = window->findChildren<QWidget*>();
+    EXPECT_TRUE(std::any_of(texts.begin(), texts.end(), [](const QWidget* text) {
+        return text->accessibleName() == u"Corvane Quillet – Hauptfenster";
+    }));
 }
 
 TEST_F(AppDelegateTest, SaysThatAccessIsGrantedEvenWhenItCameTooLate) {

@@ -32,13 +32,17 @@ class DesktopCase(unittest.TestCase):
         self.programs = []
 
     def tearDown(self):
-        if FAILURES and not self._outcome.success:
+        if FAILURES and self.has_failed():
             os.makedirs(FAILURES, exist_ok=True)
             self.desktop.camera.take().save(os.path.join(FAILURES, f"{self.id()}.png"))
         self.assertEqual(self.hands.down(), [], "keys are still down")
         self.assertEqual(self.hands.modifiers(), 0, "modifiers are still active")
         for program in self.programs:
             self.assertEqual(program.complaints(), [], "the program complained")
+
+    def has_failed(self):
+        result = self._outcome.result
+        return any(test is self for test, _ in result.failures + result.errors)
 
     def start_program(self, **options):
         """A program that runs until the test is over; its icon is there."""

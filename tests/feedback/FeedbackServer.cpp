@@ -2,8 +2,6 @@
 
 #include <QFile>
 #include <QJsonDocument>
-#include <QSslCertificate>
-#include <QSslConfiguration>
 #include <QUrl>
 #include <QUrlQuery>
 #include <gtest/gtest.h>
@@ -71,15 +69,6 @@ QJsonDocument FeedbackServer::readLine() {
         }
     }
     return QJsonDocument::fromJson(process_.readLine());
-}
-
-QNetworkReply* TrustingSession::createRequest(Operation operation, const QNetworkRequest& request,
-                                              QIODevice* body) {
-    QNetworkRequest trusting(request);
-    QSslConfiguration configuration = request.sslConfiguration();
-    configuration.addCaCertificates(QSslCertificate::fromData(authority_));
-    trusting.setSslConfiguration(configuration);
-    return QNetworkAccessManager::createRequest(operation, trusting, body);
 }
 
 } // namespace feedback

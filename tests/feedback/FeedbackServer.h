@@ -1,10 +1,11 @@
 #pragma once
 
+#include "feedback/TrustingSession.h"
+
 #include <QByteArray>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QNetworkAccessManager>
 #include <QProcess>
 #include <QString>
 #include <QTemporaryDir>
@@ -46,20 +47,6 @@ private:
     QTemporaryDir folder_;
     QProcess process_;
     QJsonObject ports_;
-};
-
-/// An HTTP session that trusts one more authority than the system does.
-class TrustingSession final : public QNetworkAccessManager {
-public:
-    explicit TrustingSession(const QByteArray& authority)
-        : authority_(authority) {}
-
-protected:
-    QNetworkReply* createRequest(Operation operation, const QNetworkRequest& request,
-                                 QIODevice* body) override;
-
-private:
-    QByteArray authority_;
 };
 
 } // namespace feedback

@@ -42,7 +42,7 @@ protected:
 
     static inline std::unique_ptr<FeedbackServer> shared;
     FeedbackServer& server = *shared;
-    TrustingSession session{server.authority()};
+    TrustingSession session{[this] { return server.authority(); }};
     FeedbackService::Payload payload{
         QStringLiteral("Hallo"),
         QStringLiteral("anna"),

@@ -2,9 +2,10 @@
 """A feedback server for tests, on the loopback address only. It knows nothing of the client: the
 request comes from the standard library's HTTP server, bodies are read by its JSON and MIME parsers.
 
-server.py FOLDER    makes certificates in FOLDER, prints one line of JSON with the ports, and then
-                    answers each line on standard input with the requests since the last one.
-                    Ends when standard input does.
+server.py FOLDER [PORT]   makes certificates in FOLDER unless they are there, prints one line of
+                          JSON with the ports, and then answers each line on standard input with the
+                          requests since the last one. Ends when standard input does. PORT is for
+                          HTTPS; any without it.
 
 What it answers is the client's to say, in the query of the URL:
   status=N body=BASE64 header=NAME:VALUE   an answer, whole
@@ -99,13 +100,15 @@ def run(command):
 
 
 def make_certificate(folder, name, *options):
+    if (folder / f"{name}.pem").exists():
+        return
     run(["openssl", "req", "-x509", "-nodes", "-days", "2", "-newkey", "ec",
          "-pkeyopt", "ec_paramgen_curve:P-256", "-subj", f"/CN={name}",
          "-keyout", folder / f"{name}.key", "-out", folder / f"{name}.pem", *options])
 
 
-def serve(certificate=None):
-    server = Server(("127.0.0.1", 0), Handler)
+def serve(certificate=None, port=0):
+    server = Server(("127.0.0.1", port), Handler)
     if certificate:
         context = ssl.SSLContext(ssl.PROTOCOL_TLS_SERVER)
         context.load_cert_chain(certificate, certificate.with_suffix(".key"))
@@ -124,7 +127,8 @@ def main():
     make_certificate(folder, "right", *signed, "-addext", "subjectAltName=IP:127.0.0.1")
     make_certificate(folder, "other", *signed, "-addext", "subjectAltName=DNS:other.invalid")
     mute = socket.create_server(("127.0.0.1", 0))  # connects, and says nothing ever after
-    print(json.dumps({"http": serve(), "https": serve(folder / "right.pem"),
+    port = int(sys.argv[2]) if len(sys.argv) > 2 else 0
+    print(json.dumps({"http": serve(), "https": serve(folder / "right.pem", port),
                       "otherName": serve(folder / "other.pem"), "mute": mute.getsockname()[1]}),
           flush=True)
     for _ in sys.stdin:

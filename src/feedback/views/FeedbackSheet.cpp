@@ -32,9 +32,9 @@ ui::Binding<T> of(const std::shared_ptr<FeedbackForm>& form,
 }
 
 ui::Element valueRow(const QString& label, const ui::Binding<QString>& value) {
-    return ui::labeledContent(label,
-                              ui::text(value, std::function([](const QString& text) { return text; }),
-                                       {.color = Color::SecondaryLabel, .truncates = true}));
+    return ui::labeledContent(
+        label, ui::text(value, std::function([](const QString& text) { return text; }),
+                        {.color = Color::SecondaryLabel, .truncates = true}));
 }
 
 QString sizeText(const std::optional<QByteArray>& png) {
@@ -44,18 +44,17 @@ QString sizeText(const std::optional<QByteArray>& png) {
 } // namespace
 
 ui::Element FeedbackSheet::header() const {
-    return ui::hstack({.spacing = standardSpacing},
-                      ui::symbol(QStringLiteral("envelope.badge"),
-                                 {.pointSize = ui::textOptions(TextStyle::Title2).pointSize,
-                                  .colors = {Color::Blue}}),
-                      ui::vstack({.spacing = 2, .alignment = ui::Alignment::Leading},
-                                 ui::text(QStringLiteral("Feedback an Ardel"),
-                                          ui::textOptions(TextStyle::Headline)),
-                                 ui::text(QStringLiteral(
-                                              "Geht direkt rein. Du musst nichts kopieren."),
-                                          ui::textOptions(TextStyle::Caption,
-                                                          Color::SecondaryLabel))),
-                      ui::spacer()) |
+    return ui::hstack(
+               {.spacing = standardSpacing},
+               ui::symbol(QStringLiteral("envelope.badge"),
+                          {.pointSize = ui::textOptions(TextStyle::Title2).pointSize,
+                           .colors = {Color::Blue}}),
+               ui::vstack({.spacing = 2, .alignment = ui::Alignment::Leading},
+                          ui::text(QStringLiteral("Feedback an Ardel"),
+                                   ui::textOptions(TextStyle::Headline)),
+                          ui::text(QStringLiteral("Geht direkt rein. Du musst nichts kopieren."),
+                                   ui::textOptions(TextStyle::Caption, Color::SecondaryLabel))),
+               ui::spacer()) |
            ui::padding(standardPadding);
 }
 
@@ -64,9 +63,9 @@ ui::Element FeedbackSheet::message() const {
         QStringLiteral("Dein Feedback"),
         ui::vstack(
             {.spacing = standardSpacing, .alignment = ui::Alignment::Leading},
-            ui::textEditor(of(form, &FeedbackForm::text),
-                           {.minimumHeight = 140,
-                            .accessibilityLabel = QStringLiteral("Dein Feedback")}) |
+            ui::textEditor(
+                of(form, &FeedbackForm::text),
+                {.minimumHeight = 140, .accessibilityLabel = QStringLiteral("Dein Feedback")}) |
                 ui::border({0}, {Color::SecondaryLabel, 0.3}, 1) |
                 ui::identifier(QStringLiteral("text")),
             ui::text(QStringLiteral("Was funktioniert nicht / was wäre cool / wo hängst du?"),
@@ -76,12 +75,10 @@ ui::Element FeedbackSheet::message() const {
 ui::Element FeedbackSheet::screenshot() const {
     const auto isOn = of(form, &FeedbackForm::screenshotMitschicken);
     const auto preview = of(form, &FeedbackForm::preview);
-    const auto isTaken = ui::combined(isOn, preview, [](bool on, const QImage& picture) {
-        return on && !picture.isNull();
-    });
-    const auto isAwaited = ui::combined(isOn, preview, [](bool on, const QImage& picture) {
-        return on && picture.isNull();
-    });
+    const auto isTaken = ui::combined(
+        isOn, preview, [](bool on, const QImage& picture) { return on && !picture.isNull(); });
+    const auto isAwaited = ui::combined(
+        isOn, preview, [](bool on, const QImage& picture) { return on && picture.isNull(); });
     return ui::section(
         QStringLiteral("Optional"),
         ui::toggle(QStringLiteral("Aktuellen Screenshot mitschicken"), isOn) |
@@ -92,12 +89,11 @@ ui::Element FeedbackSheet::screenshot() const {
                                        .accessibilityLabel = QStringLiteral("Screenshot")}) |
                        ui::identifier(QStringLiteral("preview")),
                    ui::text(of(form, &FeedbackForm::screenshotData),
-                            std::function([](const std::optional<QByteArray>& png) {
-                                return sizeText(png);
-                            }),
+                            std::function(
+                                [](const std::optional<QByteArray>& png) { return sizeText(png); }),
                             ui::textOptions(TextStyle::Caption2, Color::SecondaryLabel)) |
                        ui::identifier(QStringLiteral("size"))) |
-            ui::shownWhile(isTaken),
+            ui::shownWhile(isTaken) | ui::revealedOn(preview),
         ui::text(QStringLiteral("Screenshot wird erzeugt …"), secondary(TextStyle::Caption)) |
             ui::identifier(QStringLiteral("awaited")) | ui::shownWhile(isAwaited));
 }
@@ -125,20 +121,20 @@ ui::Element FeedbackSheet::outcome() const {
     ui::TextOptions callout = ui::textOptions(TextStyle::Callout);
     callout.wraps = true;
     return ui::section(
-               {}, ui::hstack({.spacing = standardSpacing},
-                              ui::symbol(QStringLiteral("checkmark.circle.fill"),
-                                         {.colors = {Color::Green}}) |
-                                  ui::shownWhile(succeeded),
-                              ui::symbol(QStringLiteral("exclamationmark.circle.fill"),
-                                         {.colors = {Color::Orange}}) |
-                                  ui::shownUnless(succeeded),
-                              ui::text(status, std::function([](const QString& text) {
-                                           return text;
-                                       }),
-                                       callout) |
-                                  ui::identifier(QStringLiteral("status")))) |
+               {},
+               ui::hstack(
+                   {.spacing = standardSpacing},
+                   ui::symbol(QStringLiteral("checkmark.circle.fill"), {.colors = {Color::Green}}) |
+                       ui::shownWhile(succeeded),
+                   ui::symbol(QStringLiteral("exclamationmark.circle.fill"),
+                              {.colors = {Color::Orange}}) |
+                       ui::shownUnless(succeeded),
+                   ui::text(status, std::function([](const QString& text) { return text; }),
+                            callout) |
+                       ui::identifier(QStringLiteral("status")))) |
            ui::identifier(QStringLiteral("outcome")) |
-           ui::shownWhen<QString>(status, [](const QString& text) { return !text.isEmpty(); });
+           ui::shownWhen<QString>(status, [](const QString& text) { return !text.isEmpty(); }) |
+           ui::revealedOn(status);
 }
 
 ui::Element FeedbackSheet::content() const {
@@ -154,16 +150,15 @@ ui::Element FeedbackSheet::footer() const {
                                       [](const QString& text, bool isSending) {
                                           return !isSending && !text.trimmed().isEmpty();
                                       });
-    return ui::hstack(
-               {.spacing = standardSpacing},
-               ui::pushButton(QStringLiteral("Abbrechen"), {.key = ui::ButtonKey::Cancel},
-                              [form = form] { form->abbrechen(); }),
-               ui::spacer(),
-               ui::pushButton(title,
-                              {.style = ui::ButtonStyle::Prominent,
-                               .key = ui::ButtonKey::Default,
-                               .isEnabled = canSend},
-                              [form = form] { form->senden(); })) |
+    return ui::hstack({.spacing = standardSpacing},
+                      ui::pushButton(QStringLiteral("Abbrechen"), {.key = ui::ButtonKey::Cancel},
+                                     [form = form] { form->abbrechen(); }),
+                      ui::spacer(),
+                      ui::pushButton(title,
+                                     {.style = ui::ButtonStyle::Prominent,
+                                      .key = ui::ButtonKey::Default,
+                                      .isEnabled = canSend},
+                                     [form = form] { form->senden(); })) |
            ui::padding(standardPadding);
 }
 
@@ -171,6 +166,7 @@ ui::Element FeedbackSheet::body() const {
     return ui::vstack({.spacing = 0}, header(), ui::divider(Qt::Horizontal), content(),
                       ui::divider(Qt::Horizontal), footer()) |
            ui::frame({.width = 540, .height = 540}) |
+           ui::identifier(QStringLiteral("FeedbackSheet")) |
            ui::onAppear([form = form] { form->laden(); });
 }
 

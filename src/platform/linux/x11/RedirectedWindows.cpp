@@ -55,8 +55,8 @@ bool RedirectedWindows::isVisible(xcb_window_t window) {
 xcb_window_t RedirectedWindows::topLevelOf(xcb_window_t window) {
     constexpr int deepest = 32;
     for (int depth = 0; depth < deepest && window != XCB_WINDOW_NONE; ++depth) {
-        const auto tree = display_.reply<xcb_query_tree_reply_t>(
-            xcb_query_tree(display_.get(), window));
+        const auto tree =
+            display_.reply<xcb_query_tree_reply_t>(xcb_query_tree(display_.get(), window));
         if (!tree || tree->parent == display_.root()) {
             break;
         }
@@ -67,8 +67,8 @@ xcb_window_t RedirectedWindows::topLevelOf(xcb_window_t window) {
 
 std::vector<xcb_window_t> RedirectedWindows::below(xcb_window_t window) {
     const xcb_window_t end = topLevelOf(window);
-    const auto tree = display_.reply<xcb_query_tree_reply_t>(
-        xcb_query_tree(display_.get(), display_.root()));
+    const auto tree =
+        display_.reply<xcb_query_tree_reply_t>(xcb_query_tree(display_.get(), display_.root()));
     std::vector<xcb_window_t> result;
     if (!tree) {
         return result;
@@ -107,12 +107,10 @@ QImage RedirectedWindows::pixels(xcb_pixmap_t pixmap, const QRect& part, int dep
     }
     for (int y = 0; y < part.height(); y += stripHeight) {
         const int height = std::min(stripHeight, part.height() - y);
-        const auto strip = display_.reply<xcb_get_image_reply_t>(
-            xcb_get_image(display_.get(), XCB_IMAGE_FORMAT_Z_PIXMAP, pixmap,
-                          static_cast<std::int16_t>(part.x()),
-                          static_cast<std::int16_t>(part.y() + y),
-                          static_cast<std::uint16_t>(part.width()),
-                          static_cast<std::uint16_t>(height), ~0U));
+        const auto strip = display_.reply<xcb_get_image_reply_t>(xcb_get_image(
+            display_.get(), XCB_IMAGE_FORMAT_Z_PIXMAP, pixmap, static_cast<std::int16_t>(part.x()),
+            static_cast<std::int16_t>(part.y() + y), static_cast<std::uint16_t>(part.width()),
+            static_cast<std::uint16_t>(height), ~0U));
         const std::size_t wanted = std::size_t(part.width()) * std::size_t(height) * 4;
         if (!strip || std::size_t(xcb_get_image_data_length(strip.get())) != wanted) {
             return {};

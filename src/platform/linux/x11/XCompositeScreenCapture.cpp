@@ -57,8 +57,8 @@ QImage XCompositeScreenCapture::pictureBelow(std::uint32_t window) {
     display->reply<xcb_get_input_focus_reply_t>(xcb_get_input_focus(display->get()));
     std::this_thread::sleep_for(repainting);
 
-    const auto screen = display->reply<xcb_get_geometry_reply_t>(
-        xcb_get_geometry(display->get(), display->root()));
+    const auto screen =
+        display->reply<xcb_get_geometry_reply_t>(xcb_get_geometry(display->get(), display->root()));
     if (!screen) {
         return {};
     }

@@ -1,0 +1,159 @@
+"""The feedback form, filled in with real keys and sent to a real server."""
+
+import base64
+import os
+import time
+import unittest
+
+import gi
+import wait
+from Xlib import X, Xatom, display
+
+gi.require_version("GdkPixbuf", "2.0")
+from gi.repository import GdkPixbuf, GLib  # After the version.
+
+import feedback_server
+from case import DesktopCase
+from program import Program
+from windows import Rect
+
+ELSEWHERE = os.path.join(os.environ.get("QUILLET_BUILD", "build/dev"), "tests",
+                         "corvane-quillet-elsewhere")
+TITLE = "Feedback senden"
+BLUE, RED = (20, 60, 200), (200, 30, 20)
+
+
+class Sheet:
+    """A window of one colour; a floating one stays above all others."""
+
+    def __init__(self, desktop, colour, frame, floating=False):
+        self._display = display.Display(desktop.session.display)
+        red, green, blue = colour
+        self.window = self._display.screen().root.create_window(
+            frame.x, frame.y, frame.width, frame.height, 0, X.CopyFromParent,
+            background_pixel=red << 16 | green << 8 | blue, override_redirect=floating)
+        self.window.change_property(self._display.intern_atom("_NET_WM_PID"), Xatom.CARDINAL, 32,
+                                    [os.getpid()])
+        self.window.map()
+        self._display.sync()
+        wait.until(lambda: self.window.get_attributes().map_state == X.IsViewable, 5.0,
+                   "the sheet is there")
+
+    def close(self):
+        self._display.close()
+
+
+def inside(png, margin=30):
+    """Width and height of a picture, and its colours away from the edges, as another library reads
+    it."""
+    loader = GdkPixbuf.PixbufLoader.new_with_type("png")
+    loader.write_bytes(GLib.Bytes.new(png))
+    loader.close()
+    picture = loader.get_pixbuf()
+    width, height, size = picture.get_width(), picture.get_height(), picture.get_n_channels()
+    data, stride = picture.get_pixels(), picture.get_rowstride()
+    colours = {data[start:start + 3]
+               for row in range(margin, height - margin)
+               for start in range(row * stride + margin * size,
+                                  row * stride + (width - margin) * size, size)}
+    return width, height, colours
+
+
+class FeedbackTest(DesktopCase):
+
+    def setUp(self):
+        super().setUp()
+        self.folder = self.desktop.session.path("certificates")
+        os.makedirs(self.folder, exist_ok=True)
+        self.port = feedback_server.free_port()
+        # It leaves its certificates, which the program reads before its first try.
+        feedback_server.FeedbackServer(self.folder, self.port).close()
+
+    def start_server(self):
+        server = feedback_server.FeedbackServer(self.folder, self.port)
+        self.addCleanup(server.close)
+        return server
+
+    def start_program(self):
+        program = Program(self.desktop, ELSEWHERE,
+                          environment=feedback_server.environment(self.folder, self.port))
+        self.programs.append(program)
+        self.addCleanup(program.end)
+        program.wait_for_icon(self.tray)
+        return program
+
+    def form(self, program):
+        """The form's window on the screen, or None."""
+        return self.windows.client_of(program.pid, TITLE)
+
+    def open_form(self, program):
+        program.wait_for_icon(self.tray).choose("Feedback senden …")
+        window = program.wait_until(lambda: self.form(program), 5.0, "the form is there")
+        self.desktop.accessibility.focused_text(program.pid)
+        return self.windows.frame(window)
+
+    def type(self, words):
+        for letter in words:
+            self.hands.press("space" if letter == " " else letter)
+
+    def click_send(self, frame):
+        """The button in the corner; the window has the same name."""
+        self.hands.click(frame.right - 80, frame.bottom - 30)
+
+    def shows(self, program, frame, words, limit=10.0):
+        """Waits until a part of the form bears these words; where it is."""
+        return self.desktop.accessibility.extents_of(program.pid, words, frame, limit)
+
+    def test_a_message_with_a_picture_of_what_lies_below_the_form(self):
+        behind = Sheet(self.desktop, BLUE, Rect(200, 100, 900, 600))
+        self.addCleanup(behind.close)
+        server = self.start_server()
+        program = self.start_program()
+        frame = self.open_form(program)
+        front = Sheet(self.desktop, RED, Rect(frame.x + 20, frame.y + 10, 60, 30), floating=True)
+        self.addCleanup(front.close)
+
+        self.type("it hangs ")
+        self.hands.press("Tab")
+        self.hands.press("space")
+        self.shows(program, frame, "Screenshot")
+        self.click_send(frame)
+        self.shows(program, frame, "Danke! Feedback ist drin (ID: r1)")
+        confirmed = time.monotonic()
+        program.wait_until(lambda: not self.form(program), 5.0, "the form is gone")
+        self.assertAlmostEqual(time.monotonic() - confirmed, 1.5, delta=0.4)
+
+        request, = server.requests()
+        parts = {part["name"]: base64.b64decode(part["data"]) for part in request["parts"]}
+        self.assertEqual(parts["text"].decode(), "it hangs ")
+        self.assertEqual(parts["app_module"].decode(), "Corvane Quillet – Hauptfenster")
+        self.assertIn("=== Corvane Quillet Diagnose ===", parts["diagnose"].decode())
+        width, height, colours = inside(parts["screenshot"])
+        self.assertEqual(colours, {bytes(BLUE)})
+        self.assertGreaterEqual((width, height), (900, 600))
+        self.assertLess((width, height), (940, 660))
+
+        self.open_form(program)
+        self.assertEqual(self.desktop.accessibility.focused_text(program.pid).content(), "")
+
+    def test_with_the_server_down_everything_stays_for_a_second_try(self):
+        program = self.start_program()
+        frame = self.open_form(program)
+        self.type("hello")
+        self.hands.press("Tab")
+        self.hands.press("Return")
+        self.shows(program, frame, "Senden fehlgeschlagen: Connection refused")
+        self.assertTrue(self.form(program))
+        self.hands.press("Shift+Tab")
+        self.assertEqual(self.desktop.accessibility.focused_text(program.pid).content(), "hello")
+        server = self.start_server()
+        self.click_send(frame)
+        self.shows(program, frame, "Danke! Feedback ist drin (ID: r1)")
+        request, = server.requests()
+        self.assertEqual(request["json"]["text"], "hello")
+        self.hands.press("Escape")
+        program.wait_until(lambda: not self.form(program), 1.0, "Escape closes the form")
+
+
+if __name__ == "__main__":
+    unittest.main()

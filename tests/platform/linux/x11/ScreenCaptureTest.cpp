@@ -1,0 +1,154 @@
+#include "XWindowsFixture.h"
+
+#include "platform/linux/x11/XCompositeScreenCapture.h"
+
+#include <QWidget>
+#include <xcb/shape.h>
+
+namespace desktop {
+
+namespace {
+
+using platform::PixelRect;
+
+/// A plain rectangle above all windows that are there already; nobody puts a frame around it.
+class Plain {
+public:
+    /// `pixel` with an opacity makes it translucent.
+    Plain(platform::XcbDisplay& display, PixelRect frame, std::uint32_t pixel, bool visible = true)
+        : display_(display)
+        , window_(xcb_generate_id(display.get())) {
+        auto* connection = display.get();
+        const bool translucent = pixel > 0xffffff;
+        xcb_visualid_t visual = display.screen().root_visual;
+        std::uint8_t depth = display.screen().root_depth;
+        for (auto depths = xcb_screen_allowed_depths_iterator(&display.screen());
+             translucent && depths.rem > 0; xcb_depth_next(&depths)) {
+            if (depths.data->depth == 32) {
+                depth = 32;
+                visual = xcb_depth_visuals(depths.data)->visual_id;
+            }
+        }
+        const xcb_colormap_t colors = xcb_generate_id(connection);
+        xcb_create_colormap(connection, XCB_COLORMAP_ALLOC_NONE, colors, display.root(), visual);
+        const std::uint32_t values[] = {pixel, 0, 1, colors};
+        xcb_create_window(
+            connection, depth, window_, display.root(), static_cast<std::int16_t>(frame.x),
+            static_cast<std::int16_t>(frame.y), static_cast<std::uint16_t>(frame.width),
+            static_cast<std::uint16_t>(frame.height), 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, visual,
+            XCB_CW_BACK_PIXEL | XCB_CW_BORDER_PIXEL | XCB_CW_OVERRIDE_REDIRECT | XCB_CW_COLORMAP,
+            values);
+        if (visible) {
+            xcb_map_window(connection, window_);
+        }
+        settle(display);
+    }
+    ~Plain() {
+        xcb_destroy_window(display_.get(), window_);
+        settle(display_);
+    }
+
+    void cutTo(xcb_rectangle_t part) {
+        xcb_shape_rectangles(display_.get(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, 0, window_, 0,
+                             0, 1, &part);
+        settle(display_);
+    }
+    xcb_window_t id() const { return window_; }
+
+private:
+    platform::XcbDisplay& display_;
+    xcb_window_t window_;
+};
+
+constexpr std::uint32_t red = 0xff0000;
+constexpr std::uint32_t green = 0x00ff00;
+constexpr std::uint32_t blue = 0x0000ff;
+
+/// A managed window without a frame.
+constexpr auto frameless = "_NET_WM_WINDOW_TYPE_SPLASH";
+
+class ScreenCaptureTest : public XWindowsTest {
+protected:
+    /// The colour at a pixel of the screen, in a picture whose first pixel is at `corner`.
+    static QRgb at(const QImage& image, QPoint corner, int x, int y) {
+        return image.pixel(QPoint(x, y) - corner);
+    }
+
+    static bool hasColor(const QImage& image, QRgb color) {
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (image.pixel(x, y) == color) {
+                    return true;
+                }
+            }
+        }
+        return false;
+    }
+
+    /// Fills a window for good, and waits until it is on the screen without a frame.
+    void paint(const XWindow& window, std::uint32_t pixel) {
+        auto* x11 = applications->get();
+        xcb_change_window_attributes(x11, window.id(), XCB_CW_BACK_PIXEL, &pixel);
+        EXPECT_TRUE(eventually([&] {
+            const auto attributes = applications->reply<xcb_get_window_attributes_reply_t>(
+                xcb_get_window_attributes(x11, window.id()));
+            return attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE;
+        }));
+        xcb_clear_area(x11, 0, window.id(), 0, 0, 0, 0);
+        settle(*applications);
+    }
+
+    platform::XCompositeScreenCapture capture;
+};
+
+TEST_F(ScreenCaptureTest, ShowsWhatIsBelowTheFormWholeAndNothingElse) {
+    EXPECT_TRUE(capture.pictureBelow(0).isNull()) << "an empty screen";
+    // The window manager keeps its own below those that it does not manage.
+    const XWindow back(*applications, {.frame = {100, 100, 200, 150}, .type = frameless});
+    paint(back, red);
+    const XWindow front(*applications, {.frame = {200, 150, 300, 200}, .type = frameless});
+    paint(front, green);
+    const Plain hidden(*applications, {0, 0, 50, 50}, blue, false);
+
+    QWidget form;
+    form.setStyleSheet(QStringLiteral("background: #123456"));
+    form.setGeometry(20, 20, 500, 300);
+    windowServer.bringToFront(form, {});
+    ASSERT_TRUE(eventually([&] { return form.isActiveWindow(); }));
+    const Plain above(*applications, {120, 120, 40, 40}, blue);
+
+    const auto number = capture.keyWindowNumber();
+    ASSERT_EQ(number, static_cast<std::int64_t>(form.winId()));
+    const QImage picture = capture.pictureBelow(static_cast<std::uint32_t>(number));
+    const QPoint corner(100, 100);
+    ASSERT_EQ(picture.size(), QSize(400, 250)) << "no more than the two windows cover";
+    EXPECT_EQ(at(picture, corner, 130, 130), 0xffff0000U);
+    EXPECT_EQ(at(picture, corner, 250, 200), 0xff00ff00U) << "where both are";
+    EXPECT_EQ(at(picture, corner, 499, 349), 0xff00ff00U);
+    EXPECT_EQ(qAlpha(at(picture, corner, 110, 340)), 0) << "where neither is";
+    EXPECT_FALSE(hasColor(picture, 0xff123456) || hasColor(picture, 0xff0000ff));
+
+    const QImage everything = capture.pictureBelow(0);
+    EXPECT_TRUE(hasColor(everything, 0xff123456) && hasColor(everything, 0xff0000ff));
+    EXPECT_TRUE(capture.pictureBelow(back.id()).isNull()) << "nothing is below the lowest";
+}
+
+TEST_F(ScreenCaptureTest, KeepsToTheScreenToShapesAndToOpacities) {
+    const Plain outside(*applications, {-50, -20, 200, 120}, red);
+    Plain shaped(*applications, {200, 0, 100, 100}, green);
+    shaped.cutTo({0, 0, 50, 50});
+    const Plain translucent(*applications, {100, 50, 50, 50}, 0x80000080);
+    const QImage picture = capture.pictureBelow(0);
+    ASSERT_EQ(picture.size(), QSize(250, 100));
+    EXPECT_EQ(picture.pixel(0, 0), 0xffff0000U);
+    EXPECT_EQ(picture.pixel(249, 49), 0xff00ff00U);
+    EXPECT_EQ(qAlpha(picture.pixel(210, 60)), 0) << "cut away";
+    const QRgb mixed = picture.pixel(120, 70);
+    EXPECT_NEAR(qRed(mixed), 127, 2);
+    EXPECT_NEAR(qBlue(mixed), 128, 2);
+    EXPECT_EQ(qAlpha(mixed), 255);
+}
+
+} // namespace
+
+} // namespace desktop
