@@ -31,12 +31,12 @@ std::vector<SlashCommand> SlashMenuViewModel::filteredCommands() const {
 }
 
 void SlashMenuViewModel::selectCurrent() const {
-    const int index = selectedIndex.get();
+    const qsizetype index = selectedIndex.get();
     const auto commands = filteredCommands();
     if (index < 0) {
         core::fatal(u"the slash menu's highlight is at a negative position");
     }
-    if (std::cmp_less(index, commands.size())) {
+    if (index < std::ssize(commands)) {
         onSelect(commands[static_cast<std::size_t>(index)]);
     }
 }
@@ -50,10 +50,10 @@ void SlashMenuViewModel::moveDown() {
     moveTo(selectedIndex.get() + 1);
 }
 
-void SlashMenuViewModel::moveTo(int index) {
-    const int count = static_cast<int>(filteredCommands().size());
+void SlashMenuViewModel::moveTo(qsizetype index) {
+    const qsizetype count = std::ssize(filteredCommands());
     if (count > 0) {
-        selectedIndex = std::clamp(index, 0, count - 1);
+        selectedIndex = std::clamp(index, qsizetype{0}, count - 1);
     }
 }
 

@@ -24,7 +24,7 @@ public:
     /// What the user typed, not trimmed.
     core::Published<QString> searchText;
     /// The highlighted position within filteredCommands(); never negative.
-    core::Published<int> selectedIndex;
+    core::Published<qsizetype> selectedIndex;
     const std::function<void(SlashCommand)> onSelect;
 
     /// The commands that match the search.
@@ -39,7 +39,7 @@ public:
     void moveDown();
 
 private:
-    void moveTo(int index);
+    void moveTo(qsizetype index);
 };
 
 } // namespace slash

@@ -18,6 +18,25 @@ struct FakeKeyEvent final : platform::KeyEvent {
     void setFlags(std::uint64_t flags) override { key.flags = flags; }
 };
 
+/// Keys that a test presses by name have no scan code; these have their place on every keyboard.
+std::optional<platform::KeyCode> positionByName(const QKeyEvent& event) {
+    if (event.nativeScanCode() != 0) {
+        return std::nullopt;
+    }
+    switch (event.key()) {
+    case Qt::Key_Return:
+        return 36;
+    case Qt::Key_Escape:
+        return 53;
+    case Qt::Key_Down:
+        return 125;
+    case Qt::Key_Up:
+        return 126;
+    default:
+        return std::nullopt;
+    }
+}
+
 /// Makes an implementation, puts it into the platform, and hands out the reference.
 template <typename Fake, typename Interface, typename... Arguments>
 Fake& put(std::unique_ptr<Interface>& slot, Arguments&&... arguments) {
@@ -232,7 +251,8 @@ FakePlatform::FakePlatform()
     platform.keyPresses = std::make_unique<::platform::QtKeyPresses>(
         [this](const QKeyEvent& event) -> std::optional<::platform::KeyCode> {
             const auto found = keyPositions.find(event.nativeScanCode());
-            return found != keyPositions.end() ? std::optional(found->second) : std::nullopt;
+            return found != keyPositions.end() ? std::optional(found->second)
+                                               : positionByName(event);
         });
 }
 

@@ -269,7 +269,8 @@ public:
     FakeApplicationIcons& applicationIcons;
     FakeAccessibility& accessibility;
     FakeKeyboardEvents& keyboardEvents;
-    /// What the key of an event is, by its scan code.
+    /// What the key of an event is, by its scan code; Return, Escape and the vertical arrows are
+    /// known without one.
     std::map<quint32, platform::KeyCode> keyPositions;
     FakeGlobalKeyMonitor& globalKeyMonitor;
     FakePointerMonitor& pointerMonitor;

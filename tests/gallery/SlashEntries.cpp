@@ -1,11 +1,8 @@
 #include "gallery/Gallery.h"
 
-#include "fakes/FakePlatform.h"
-#include "platform/qt/QtKeyPresses.h"
 #include "slash/SlashMenuController.h"
 
 #include <QApplication>
-#include <QKeyEvent>
 #include <QTest>
 
 #include <algorithm>
@@ -14,26 +11,9 @@ namespace gallery {
 
 namespace {
 
-/// The position of a key that the menu knows, on a keyboard like any other.
-std::optional<platform::KeyCode> position(const QKeyEvent& event) {
-    switch (event.key()) {
-    case Qt::Key_Return:
-        return 36;
-    case Qt::Key_Escape:
-        return 53;
-    case Qt::Key_Down:
-        return 125;
-    case Qt::Key_Up:
-        return 126;
-    default:
-        return std::nullopt;
-    }
-}
-
 /// The menu with its highlight moved down some rows.
 Entry slash(const char* name, int rowsDown, const char* search = "") {
-    return {QString::fromLatin1(name), [=](fakes::FakePlatform& rooms, const QString& text) {
-                rooms.platform.keyPresses = std::make_unique<platform::QtKeyPresses>(position);
+    return {QString::fromLatin1(name), [=](fakes::FakePlatform&, const QString& text) {
                 auto menu = std::make_shared<slash::SlashMenuController>();
                 menu->show({60, -60});
                 const auto windows = QApplication::topLevelWidgets();

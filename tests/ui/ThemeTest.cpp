@@ -60,6 +60,19 @@ TEST(Theme, TheAccentIsThatOfAnActiveWindowThinnedByItsOpacity) {
     EXPECT_EQ(ui::color({}, desktop).alpha(), 0);
 }
 
+TEST(Theme, ThinWhiteTextCanBeReadOnTheAccentBehindItWhateverTheDesktopsAccent) {
+    QPalette desktop;
+    for (const QRgb accent : {0xff308cc6U, 0xff3b95ffU, 0xfff5c211U, 0xffffffffU, 0xff1a2f50U}) {
+        desktop.setColor(QPalette::Highlight, QColor(accent));
+        const QColor ground = ui::color(Color::AccentBehindText, desktop);
+        const auto above = [](float c) { return 0.8F + 0.2F * c; };
+        const QColor text =
+            QColor::fromRgbF(above(ground.redF()), above(ground.greenF()), above(ground.blueF()));
+        EXPECT_GE(contrast(text, ground), 4.5) << accent;
+    }
+    EXPECT_EQ(ui::color(Color::AccentBehindText, desktop), QColor(0xff1a2f50U));
+}
+
 TEST(Theme, APointIsAPixelAtAnyResolution) {
     EXPECT_EQ(ui::font(18, ui::Weight::Bold).pixelSize(), 18);
     EXPECT_EQ(ui::font(13, ui::Weight::Semibold).weight(), QFont::DemiBold);

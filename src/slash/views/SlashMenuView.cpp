@@ -41,6 +41,7 @@ ui::Element rowElement(Row& row, const std::shared_ptr<SlashMenuViewModel>& view
         ui::identifier(id(row.command));
     row.widget = &element.widget();
     row.widget->setAccessibleDescription(description(row.command));
+    ui::setAccessiblySelected(*row.widget, row.isSelected->get());
     ui::keep(*row.widget, row.isSelected->observe([widget = row.widget](bool selected) {
         ui::setAccessiblySelected(*widget, selected);
     }));
@@ -48,7 +49,7 @@ ui::Element rowElement(Row& row, const std::shared_ptr<SlashMenuViewModel>& view
 }
 
 /// Brings the rows up to date; answers the highlighted one, if there is one.
-const Row* update(std::vector<Row>& rows, const QString& search, int selectedIndex) {
+const Row* update(std::vector<Row>& rows, const QString& search, qsizetype selectedIndex) {
     const auto commands = commandsMatching(search);
     const Row* selected = nullptr;
     for (Row& row : rows) {
@@ -106,7 +107,7 @@ ui::Element SlashMenuView::commandList() const {
                         model.searchText.observe([&model, rows](const QString& search) {
                             update(*rows, search, model.selectedIndex.get());
                         }),
-                        model.selectedIndex.observe([&model, &list, rows](int index) {
+                        model.selectedIndex.observe([&model, &list, rows](qsizetype index) {
                             if (const Row* row = update(*rows, model.searchText.get(), index)) {
                                 list.centre(*row->widget);
                             }

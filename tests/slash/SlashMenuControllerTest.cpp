@@ -1,0 +1,187 @@
+#include "SlashMenuFixture.h"
+
+#include "slash/views/KeyboardHandlingView.h"
+
+#include <QCoreApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QScrollArea>
+#include <gmock/gmock.h>
+
+using platform::Point;
+using platform::Rect;
+using slash::SlashCommand;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+class SlashMenuController : public SlashMenuFixture {
+protected:
+    QLineEdit& search() const { return dynamic_cast<QLineEdit&>(part("search")); }
+    QRect list() const { return place(part("qt_scrollarea_viewport")); }
+    Rect frame() const { return fake_.windowServer.frames.at(&window()); }
+
+    void compose(const QString& preedit, const QString& committed = {}) {
+        QInputMethodEvent event(preedit, {});
+        event.setCommitString(committed);
+        QCoreApplication::sendEvent(&search(), &event);
+    }
+};
+
+} // namespace
+
+TEST_F(SlashMenuController, StandsAtThePointAsFarAsTheVisibleFrameLetsIt) {
+    struct Case {
+        const char* where;
+        Point at;
+        Rect expected;
+    };
+    fake_.screens.all = {{{0, 0, 1920, 1080}, {0, 40, 1920, 1000}},
+                         {{1920, 0, 800, 300}, {1920, 0, 800, 300}}};
+    fake_.screens.main = fake_.screens.all.front();
+    for (const auto& [where, at, expected] :
+         {Case{"in the middle", {300, 900}, {300, 540, 320, 360}},
+          Case{"at the right edge", {1800, 900}, {1600, 540, 320, 360}},
+          Case{"at the bottom", {300, 100}, {300, 40, 320, 360}},
+          Case{"under the panel at the top", {300, 1070}, {300, 680, 320, 360}},
+          Case{"left of every screen", {-500, 900}, {0, 540, 320, 360}},
+          Case{"on a screen that is not as high as the menu", {2000, 200}, {2000, 0, 320, 300}}}) {
+        controller_->show(at);
+        EXPECT_EQ(frame(), expected) << where;
+        EXPECT_EQ(part("SlashMenuView").size(), QSize(int(expected.width), int(expected.height)))
+            << where;
+    }
+}
+
+TEST_F(SlashMenuController, ASearchIsTypedAndReturnChoosesTheHighlightedCommand) {
+    show();
+    EXPECT_THAT(fake_.record, Contains("make floating with the keyboard"));
+    EXPECT_TRUE(search().hasFocus());
+    type("list");
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_THAT(chosen_, ElementsAre(SlashCommand::numberedList));
+    press(Qt::Key_Up);
+    press(Qt::Key_Enter);
+    press(Qt::Key_Return, 1, Qt::ShiftModifier);
+    EXPECT_THAT(chosen_, ElementsAre(SlashCommand::numberedList, SlashCommand::bulletList,
+                                     SlashCommand::bulletList));
+}
+
+TEST_F(SlashMenuController, TheMenuIsAsTallAsWhatMatchesAndKeepsItsTopEdge) {
+    show();
+    type("list");
+    comeToRest();
+    const Rect few = frame();
+    EXPECT_LT(few.height, 220);
+    EXPECT_EQ(few.maxY(), corner.y);
+    EXPECT_EQ(place(*row(SlashCommand::checklist)).bottom() + 1, int(few.height) - 8);
+    press(Qt::Key_Backspace, 4);
+    comeToRest();
+    EXPECT_EQ(frame(), (Rect{300, 540, 320, 360}));
+}
+
+TEST_F(SlashMenuController, EscapeHidesItAndItStartsAfresh) {
+    show();
+    press(Qt::Key_Down, 9);
+    comeToRest();
+    type("e");
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(window().isVisible());
+    EXPECT_THAT(chosen_, IsEmpty());
+    QWidget other;
+    other.show(); // and has the keyboard
+    comeToRest();
+
+    show();
+    EXPECT_EQ(search().text(), QString());
+    EXPECT_TRUE(search().hasFocus());
+    EXPECT_EQ(place(*row(SlashCommand::heading1)).top(), list().top() + 8);
+    press(Qt::Key_Return);
+    EXPECT_THAT(chosen_, ElementsAre(SlashCommand::heading1));
+}
+
+TEST_F(SlashMenuController, TheHighlightedRowIsBroughtToTheMiddle) {
+    show();
+    const QWidget& template_ = part("Template");
+    EXPECT_FALSE(list().intersects(place(template_)));
+    press(Qt::Key_Down, 7);
+    comeToRest();
+    EXPECT_NEAR(place(*row(SlashCommand::divider)).center().y(), list().center().y(), 1);
+    press(Qt::Key_Down, 3);
+    comeToRest();
+    EXPECT_EQ(place(*row(SlashCommand::aiAssist)).bottom(), list().bottom() - 8);
+}
+
+TEST_F(SlashMenuController, AClickChoosesItsRowAndLeavesTheHighlight) {
+    show();
+    const QRect third = place(*row(SlashCommand::heading3));
+    click(third.topLeft());
+    click(third.bottomRight());
+    EXPECT_THAT(chosen_, ElementsAre(SlashCommand::heading3, SlashCommand::heading3));
+    click({third.center().x(), third.bottom() + 1}); // between two rows
+    EXPECT_EQ(chosen_.size(), 2U);
+    EXPECT_TRUE(search().hasFocus());
+    press(Qt::Key_Return);
+    EXPECT_EQ(chosen_.back(), SlashCommand::heading1);
+}
+
+TEST_F(SlashMenuController, AnInputMethodThatComposesKeepsItsKeys) {
+    show();
+    compose(QStringLiteral("nihon"));
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    press(Qt::Key_Enter);
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(window().isVisible());
+    EXPECT_THAT(chosen_, IsEmpty());
+    compose({}, QStringLiteral("head"));
+    press(Qt::Key_Return);
+    EXPECT_THAT(chosen_, ElementsAre(SlashCommand::heading1));
+}
+
+TEST_F(SlashMenuController, AChoiceMayEndIt) {
+    for (const bool byKey : {true, false}) {
+        controller_ = std::make_unique<slash::SlashMenuController>();
+        controller_->onCommandSelected = [this](SlashCommand command) {
+            chosen_.push_back(command);
+            controller_.reset();
+        };
+        show();
+        if (byKey) {
+            press(Qt::Key_Return);
+        } else {
+            click(place(*row(SlashCommand::heading2)).center());
+        }
+        EXPECT_EQ(controller_, nullptr);
+    }
+    EXPECT_THAT(chosen_, ElementsAre(SlashCommand::heading1, SlashCommand::heading2));
+}
+
+TEST_F(SlashMenuController, ItsFourKeysEndInTheKeyViewAndAllOthersGoOn) {
+    slash::KeyboardHandlingView view(*fake_.platform.keyPresses);
+    const auto goesOn = [&view](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QKeyEvent event(QEvent::KeyPress, key, modifiers);
+        QCoreApplication::sendEvent(&view, &event);
+        return !event.isAccepted();
+    };
+    std::vector<char> called;
+    for (const bool wanted : {false, true}) {
+        if (wanted) {
+            view.onUpArrow = [&] { called.push_back('u'); };
+            view.onDownArrow = [&] { called.push_back('d'); };
+            view.onReturn = [&] { called.push_back('r'); };
+            view.onEscape = [&] { called.push_back('e'); };
+        }
+        EXPECT_FALSE(goesOn(Qt::Key_Up));
+        EXPECT_FALSE(goesOn(Qt::Key_Down, Qt::ControlModifier));
+        EXPECT_FALSE(goesOn(Qt::Key_Return, Qt::ShiftModifier));
+        EXPECT_FALSE(goesOn(Qt::Key_Escape));
+        EXPECT_TRUE(goesOn(Qt::Key_A));
+        EXPECT_TRUE(goesOn(Qt::Key_Left));
+    }
+    EXPECT_THAT(called, ElementsAre('u', 'd', 'r', 'e'));
+}
