@@ -15,7 +15,9 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE ${QUILLET_BUILD_NUMBER})
 set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS TRUE)
-# Without it there are no selections; the program says so and runs on.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "at-spi2-core")
+# Without the first two there are no selections; the program says so and runs on. The third is what
+# feedback and the look for updates trust a server by.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
+    "at-spi2-core, default-dbus-session-bus | dbus-session-bus, ca-certificates")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION TRUE)
 include(CPack)

@@ -1,9 +1,11 @@
 #include "ui/TitledWindow.h"
 
+#include "core/ProgramIdentity.h"
 #include "ui/AccessibleRole.h"
 #include "ui/Theme.h"
 
 #include <QEvent>
+#include <QIcon>
 #include <QPainter>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -15,6 +17,8 @@ TitledWindow::TitledWindow(const QString& title, QSize contentSize)
                            Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint) {
     setAccessibleRole(*this, QAccessible::Window);
     setWindowTitle(title);
+    // None where the program is not installed.
+    setWindowIcon(QIcon::fromTheme(core::programIdentifier()));
     setFixedSize(contentSize);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

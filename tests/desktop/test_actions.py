@@ -79,6 +79,10 @@ class ActionTest(DesktopCase):
                 self.call("quit")
                 wait.until(lambda: not self.of_session(), 5.0, "the program has ended")
 
+    def test_asking_a_program_that_does_not_run_to_quit_starts_none(self):
+        start = self.desktop.session.start([os.path.abspath(EXECUTABLE), "--quit"])
+        self.assertEqual(start.wait(10.0), 0)
+
     def test_an_action_that_it_does_not_have_is_an_error_and_harmless(self):
         program = self.start_program()
         with self.assertRaisesRegex(GLib.Error, "InvalidArgs"):
