@@ -17,7 +17,7 @@ import sys
 
 # The headers of this system's C and C++ libraries and of its Qt read as on Linux; only the language, the
 # calling convention and the object format are Apple's.
-TARGET = ["-target", "x86_64-apple-macos13.0", "-fobjc-arc", "-fblocks", "-std=c++20", "-O1",
+TARGET = ["-fobjc-arc", "-fblocks", "-std=c++20", "-O1",
           "-U__APPLE__", "-U__MACH__", "-U__nonnull", "-U__nullable", "-D__linux__", "-D__ELF__",
           "-D_GNU_SOURCE", "-DQT_NO_VERSION_TAGGING", "-ferror-limit=5", "-nostdinc++", "-nostdlibinc"]
 WARNINGS = ["-Werror", "-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Wconversion", "-Wold-style-cast",
@@ -37,6 +37,8 @@ class Toolchain:
         self.settings = json.loads(pathlib.Path(settings).read_text(encoding="utf-8"))
         self.root = pathlib.Path(self.settings["source"])
         self.layer = self.root / "src/platform/macos"
+        oldest = re.search(r"CMAKE_OSX_DEPLOYMENT_TARGET (\S+)", (self.root / "CMakeLists.txt").read_text())[1]
+        self.target = f"x86_64-apple-macos{oldest}"
         self.objects = pathlib.Path(self.settings["build"]) / "objects"
 
     def sources(self):
@@ -49,7 +51,7 @@ class Toolchain:
         language = "objective-c++" if source.suffix == ".mm" else "c++"
         own = ["-I" + str(self.root / "src"), "-I" + str(self.root / "tests/macos/declarations")]
         system = [part for folder in self.settings["includes"] for part in ("-isystem", folder)]
-        return [self.settings["compiler"], *TARGET, *WARNINGS, *DEFINITIONS, *own, *system,
+        return [self.settings["compiler"], "-target", self.target, *TARGET, *WARNINGS, *DEFINITIONS, *own, *system,
                 "-x", language, *more, str(source)]
 
     def run(self, source, *more):

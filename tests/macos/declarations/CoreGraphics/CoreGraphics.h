@@ -2,6 +2,8 @@
 
 #include <CoreFoundation/CoreFoundation.h>
 
+#include <cstddef>
+
 QUILLET_ASSUME_NONNULL_BEGIN
 extern "C" {
 
@@ -64,6 +66,40 @@ void CGEventPost(CGEventTapLocation tap, CGEventRef _Nullable event);
 // coregraphics/cgpreflightscreencaptureaccess(), cgrequestscreencaptureaccess()
 bool CGPreflightScreenCaptureAccess() QUILLET_MACOS(10.15);
 bool CGRequestScreenCaptureAccess() QUILLET_MACOS(10.15);
+
+// corefoundation/cgrectnull
+extern const CGRect CGRectNull;
+
+// coregraphics/cgimage, cgcontext, cgcolorspace
+using CGImageRef = struct CGImage*;
+using CGContextRef = struct CGContext*;
+using CGColorSpaceRef = struct CGColorSpace*;
+
+// coregraphics/cgimage/width, height
+std::size_t CGImageGetWidth(CGImageRef _Nullable image);
+std::size_t CGImageGetHeight(CGImageRef _Nullable image);
+
+// coregraphics/cgcolorspace/init(name:), srgb
+extern const CFStringRef kCGColorSpaceSRGB;
+CGColorSpaceRef _Nullable CGColorSpaceCreateWithName(CFStringRef _Nullable name);
+
+// coregraphics/cgimagealphainfo, cgbitmapinfo
+enum CGImageAlphaInfo : std::uint32_t {
+    kCGImageAlphaPremultipliedLast = 1,
+    kCGImageAlphaPremultipliedFirst = 2,
+};
+enum CGBitmapInfo : std::uint32_t {
+    kCGBitmapByteOrder32Little = 2U << 12U,
+    kCGBitmapByteOrder32Big = 4U << 12U,
+};
+
+// coregraphics/cgcontext/init(data:width:height:bitspercomponent:bytesperrow:space:bitmapinfo:)
+CGContextRef _Nullable CGBitmapContextCreate(void* _Nullable data, std::size_t width, std::size_t height,
+                                             std::size_t bitsPerComponent, std::size_t bytesPerRow,
+                                             CGColorSpaceRef _Nullable space, std::uint32_t bitmapInfo);
+
+// coregraphics/1454845-cgcontextdrawimage
+void CGContextDrawImage(CGContextRef _Nullable c, CGRect rect, CGImageRef _Nullable image);
 
 } // extern "C"
 QUILLET_ASSUME_NONNULL_END

@@ -19,7 +19,10 @@ enum Type : CFTypeID {
     EventSource,
     Port,
     RunLoop,
-    RunLoopSource
+    RunLoopSource,
+    Image,
+    Context,
+    ColorSpace
 };
 
 struct Object {
