@@ -71,6 +71,8 @@ void ScrollArea::settleLayouts(const QWidget& target) {
          around = around->parentWidget()) {
         QCoreApplication::sendPostedEvents(around, QEvent::LayoutRequest);
     }
+    // And the content gets the height that it asks for.
+    QCoreApplication::sendPostedEvents(viewport(), QEvent::LayoutRequest);
 }
 
 void ScrollArea::followFocus() {
@@ -110,12 +112,13 @@ void ScrollArea::resizeEvent(QResizeEvent* event) {
     QScrollArea::resizeEvent(event);
     const int width = indicator_.sizeHint().width();
     indicator_.setGeometry(this->width() - width, 0, width, height());
+    followScrollBar();
 }
 
 void ScrollArea::followScrollBar() {
     const QScrollBar& bar = *verticalScrollBar();
     indicator_.setRange(bar.minimum(), bar.maximum());
-    indicator_.setPageStep(bar.pageStep());
+    indicator_.setPageStep(viewport()->height());
     indicator_.setSingleStep(bar.singleStep());
     indicator_.setVisible(bar.maximum() > bar.minimum());
 }

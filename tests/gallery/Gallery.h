@@ -18,6 +18,7 @@ std::vector<Entry> entries();
 
 // One for each feature.
 std::vector<Entry> barEntries();
+std::vector<Entry> feedbackEntries();
 std::vector<Entry> settingsEntries();
 std::vector<Entry> slashEntries();
 std::vector<Entry> symbolEntries();
