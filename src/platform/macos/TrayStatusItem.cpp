@@ -1,0 +1,21 @@
+#include "platform/macos/TrayStatusItem.h"
+
+#include <QSystemTrayIcon>
+
+namespace platform {
+
+TrayStatusItem::TrayStatusItem() = default;
+TrayStatusItem::~TrayStatusItem() = default;
+
+core::Registration TrayStatusItem::show(const QIcon& icon, const QString& accessibilityDescription,
+                                        QMenu& menu) {
+    QIcon mask = icon;
+    mask.setIsMask(true);
+    item_ = std::make_unique<QSystemTrayIcon>(mask);
+    item_->setToolTip(accessibilityDescription);
+    item_->setContextMenu(&menu);
+    item_->show();
+    return core::Registration([this] { item_.reset(); });
+}
+
+} // namespace platform
