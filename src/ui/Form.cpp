@@ -10,7 +10,7 @@ namespace ui {
 
 namespace {
 
-constexpr int margin = 20;
+constexpr int margin = 16;
 constexpr int betweenSections = 20;
 constexpr int belowTitle = 8;
 

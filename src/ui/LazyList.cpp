@@ -1,8 +1,6 @@
 #include "ui/LazyList.h"
 
 #include "ui/AccessibleRole.h"
-#include "ui/FocusRing.h"
-#include "ui/RoundedRectangle.h"
 #include "ui/ScrollBar.h"
 #include "ui/Theme.h"
 
@@ -13,12 +11,6 @@
 
 namespace ui {
 
-namespace {
-
-constexpr RoundedRectangle shape{6};
-
-} // namespace
-
 LazyList::LazyList(int rowHeight)
     : rowHeight_(rowHeight) {
     setFrameShape(QFrame::NoFrame);
@@ -26,13 +18,10 @@ LazyList::LazyList(int rowHeight)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBar(std::make_unique<ScrollBar>().release());
     verticalScrollBar()->setSingleStep(rowHeight);
-    setViewportMargins(1, 1, 1, 1);
+    setViewportMargins(0, 1, 0, 1);
     viewport()->setAutoFillBackground(false);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setAccessibleRole(*viewport(), QAccessible::List);
-    FocusRing::attach(*this, [this] {
-        return FocusRing::Shape{QRectF(rect()), shape.cornerRadius};
-    });
 }
 
 void LazyList::setRows(Rows rows) {
@@ -53,25 +42,29 @@ QWidget* LazyList::row(int index) const {
 }
 
 bool LazyList::event(QEvent* event) {
-    // What the viewport draws comes here as well; the border is the list's own.
+    // What the viewport draws comes here as well; the border is the list's own. It is open at the
+    // sides: a list goes from edge to edge.
     if (event->type() == QEvent::Paint) {
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.fillPath(shape.path(rect()), color({Color::TextBackground}, palette()));
-        const RoundedRectangle outline{shape.cornerRadius - 0.5};
-        painter.strokePath(outline.path(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5)),
-                           QPen(color({Color::ControlBorder}, palette()), 1));
+        painter.fillRect(rect(), color({Color::TextBackground}, palette()));
+        if (hasFocus() && current_ < rows_.count) {
+            const int top = viewport()->y() + current_ * rowHeight_ - verticalScrollBar()->value();
+            painter.fillRect(0, top, width(), rowHeight_, color({Color::Accent, 0.2}, palette()));
+        }
+        const QColor line = color({hasFocus() ? Color::Accent : Color::ControlBorder}, palette());
+        painter.fillRect(0, 0, width(), 1, line);
+        painter.fillRect(0, height() - 1, width(), 1, line);
     }
     return QAbstractScrollArea::event(event);
 }
 
 void LazyList::focusInEvent(QFocusEvent*) {
-    viewport()->update();
+    update();
     tellCurrent();
 }
 
 void LazyList::focusOutEvent(QFocusEvent*) {
-    viewport()->update();
+    update();
 }
 
 void LazyList::keyPressEvent(QKeyEvent* event) {
@@ -101,16 +94,6 @@ void LazyList::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-void LazyList::paintEvent(QPaintEvent*) {
-    QPainter painter(viewport());
-    painter.setRenderHint(QPainter::Antialiasing);
-    if (hasFocus() && current_ < rows_.count) {
-        const QRectF row(4, current_ * rowHeight_ - verticalScrollBar()->value() + 1,
-                         viewport()->width() - 8, rowHeight_ - 2);
-        painter.fillPath(shape.path(row), color({Color::Accent, 0.16}, palette()));
-    }
-}
-
 void LazyList::resizeEvent(QResizeEvent*) {
     updateRange();
     layOut();
@@ -118,7 +101,7 @@ void LazyList::resizeEvent(QResizeEvent*) {
 
 void LazyList::scrollContentsBy(int, int) {
     layOut();
-    viewport()->update();
+    update();
 }
 
 void LazyList::layOut() {
@@ -149,8 +132,9 @@ void LazyList::layOut() {
 }
 
 void LazyList::place(int index, QWidget& row) const {
-    row.setGeometry(0, index * rowHeight_ - verticalScrollBar()->value(), viewport()->width(),
-                    rowHeight_);
+    // As wide as the list: a scroll bar that comes and goes covers the row's margin and moves
+    // nothing.
+    row.setGeometry(0, index * rowHeight_ - verticalScrollBar()->value(), width(), rowHeight_);
 }
 
 void LazyList::setCurrent(int index) {
@@ -158,7 +142,7 @@ void LazyList::setCurrent(int index) {
     const int top = current_ * rowHeight_;
     QScrollBar& bar = *verticalScrollBar();
     bar.setValue(std::clamp(bar.value(), top + rowHeight_ - viewport()->height(), top));
-    viewport()->update();
+    update();
     tellCurrent();
 }
 

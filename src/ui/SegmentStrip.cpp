@@ -79,7 +79,9 @@ void SegmentStrip::leaveEvent(QEvent* event) {
 void SegmentStrip::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(strip.path(rect()), color({Color::ControlTrack, 0.6}, palette()));
+    // In the dark the chosen segment is the lighter one, and must stand out.
+    const double share = isDark(palette()) ? 0.3 : 0.6;
+    painter.fillPath(strip.path(rect()), color({Color::ControlTrack, share}, palette()));
     for (int i = 0; i < count(); ++i) {
         paintSegment(painter, i);
     }

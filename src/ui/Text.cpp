@@ -64,9 +64,12 @@ protected:
         painter.setOpacity(labelOpacity(*this));
         painter.setPen(color(color_(), palette()));
         const QFontMetrics metrics = fontMetrics();
-        const bool fits = !truncates_ || metrics.horizontalAdvance(text_) <= width();
-        painter.drawText(rect(), flags() | Qt::TextDontClip,
-                         fits ? text_ : metrics.elidedText(text_, Qt::ElideRight, width()));
+        if (truncates_ && metrics.horizontalAdvance(text_) > width()) {
+            painter.drawText(rect(), Qt::AlignLeading | Qt::AlignVCenter | Qt::TextSingleLine,
+                             metrics.elidedText(text_, Qt::ElideRight, width()));
+            return;
+        }
+        painter.drawText(rect(), flags() | Qt::TextDontClip, text_);
     }
 
 private:

@@ -42,20 +42,43 @@ double luminance(const QColor& color) {
            0.0722 * linear(color.blueF());
 }
 
-/// The colour itself, or the lightest darker shade of it on which thin white text can be read.
-QColor behindWhiteText(QColor color) {
-    constexpr double textOpacity = 0.8;
+double contrast(const QColor& first, const QColor& second) {
+    const auto [dark, light] = std::minmax({luminance(first), luminance(second)});
+    return (light + 0.05) / (dark + 0.05);
+}
+
+/// The colour itself, or the shade of it nearest to it on the way to `end` that can be read.
+/// `contrastOf` says how well a shade can be read.
+template <typename Contrast>
+QColor readableShade(const QColor& color, const QColor& end, Contrast contrastOf) {
     constexpr double readable = 4.5;
     constexpr double step = 0.02;
-    const auto contrast = [](const QColor& ground) {
-        return (luminance(mixed(ground, Qt::white, textOpacity)) + 0.05) /
-               (luminance(ground) + 0.05);
-    };
-    const QColor accent = color;
-    for (double share = step; contrast(color) < readable; share += step) {
-        color = mixed(accent, Qt::black, share);
+    QColor shade = color;
+    for (double share = step; share < 1 && contrastOf(shade) < readable; share += step) {
+        shade = mixed(color, end, share);
     }
-    return color;
+    return shade;
+}
+
+/// A shade on which thin white text can be read.
+QColor behindWhiteText(const QColor& color) {
+    constexpr double textOpacity = 0.8;
+    return readableShade(color, Qt::black, [](const QColor& ground) {
+        return contrast(mixed(ground, Qt::white, textOpacity), ground);
+    });
+}
+
+QColor sectionBackground(const QPalette& palette) {
+    return mixed(role(palette, QPalette::Window), Qt::white, isDark(palette) ? 0.05 : 0.55);
+}
+
+/// A shade that can be read as text on a section with a tint of the accent over it.
+QColor accentText(const QPalette& palette) {
+    constexpr double tint = 0.2;
+    const QColor accent = role(palette, QPalette::Highlight);
+    const QColor ground = mixed(sectionBackground(palette), accent, tint);
+    return readableShade(accent, role(palette, QPalette::WindowText),
+                         [&](const QColor& text) { return contrast(text, ground); });
 }
 
 QColor opaque(Color color, const QPalette& palette) {
@@ -74,6 +97,8 @@ QColor opaque(Color color, const QPalette& palette) {
         return faded(role(palette, QPalette::WindowText), dark ? 0.24 : 0.25);
     case Color::Accent:
         return role(palette, QPalette::Highlight);
+    case Color::AccentText:
+        return accentText(palette);
     case Color::OnAccent:
         return role(palette, QPalette::HighlightedText);
     case Color::AccentBehindText:
@@ -89,7 +114,7 @@ QColor opaque(Color color, const QPalette& palette) {
     case Color::ControlBorder:
         return faded(role(palette, QPalette::WindowText), dark ? 0.3 : 0.28);
     case Color::SectionBackground:
-        return mixed(role(palette, QPalette::Window), Qt::white, dark ? 0.05 : 0.55);
+        return sectionBackground(palette);
     case Color::TextBackground:
         return role(palette, QPalette::Base);
     case Color::ControlBackground:

@@ -20,6 +20,8 @@ enum class Color {
     QuaternaryLabel,
     Separator,
     Accent,
+    /// Text in the accent colour, also where that tints what is behind it.
+    AccentText,
     /// Text and symbols on the accent colour.
     OnAccent,
     /// The accent colour behind white text, dark enough for text that is not fully opaque.

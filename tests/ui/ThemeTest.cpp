@@ -1,5 +1,7 @@
 #include "ui/Theme.h"
 
+#include <QImage>
+#include <QPainter>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -36,6 +38,21 @@ TEST(Theme, TextStandsOutFromEveryMaterialInLightAndDark) {
             const QColor ground = ui::color({material}, desktop);
             EXPECT_GE(contrast(ui::color({Color::Label}, desktop), ground), 7);
             EXPECT_GE(contrast(ui::color({Color::SecondaryLabel}, desktop), ground), 4.5);
+        }
+    }
+}
+
+TEST(Theme, TheAccentIsReadableAsTextOnATintOfItself) {
+    for (QPalette desktop :
+         {palette(0xefefef, 0x000000), palette(0xfafafa, 0x2e3436), palette(0x2a2e32, 0xfcfcfc)}) {
+        for (const QRgb accent : {0xff308cc6, 0xff3584e4, 0xffe5a50a, 0xff241f31}) {
+            desktop.setColor(QPalette::Highlight, QColor(accent));
+            const QColor section = ui::color({Color::SectionBackground}, desktop);
+            QImage ground(1, 1, QImage::Format_ARGB32);
+            ground.fill(section);
+            QPainter(&ground).fillRect(0, 0, 1, 1, ui::color({Color::Accent, 0.2}, desktop));
+            const QColor text = ui::color({Color::AccentText}, desktop);
+            EXPECT_GE(contrast(text, ground.pixelColor(0, 0)), 4.4) << std::hex << accent;
         }
     }
 }

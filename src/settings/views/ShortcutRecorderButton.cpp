@@ -28,7 +28,7 @@ Label label(AppSettingsManager& store, const ui::Binding<bool>& isRecording) {
         return ui::text(text, std::function([](const QString& shown) { return shown; }),
                         {.color = color});
     };
-    ui::Element element = ui::hstack({}, textIn(ui::Color::Accent) | ui::shownWhile(isRecording),
+    ui::Element element = ui::hstack({}, textIn(ui::Color::AccentText) | ui::shownWhile(isRecording),
                                      textIn(ui::Color::Label) | ui::shownUnless(isRecording));
     ui::keep(element.widget(),
              std::tuple(isRecording->observe([=, &store](bool recording) {
