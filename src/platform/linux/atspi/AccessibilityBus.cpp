@@ -58,8 +58,8 @@ bool AccessibilityBus::connect(std::chrono::milliseconds timeLimit) {
         return false;
     }
     isSuperseded_ = false;
-    // The address of each bus is unlike all others.
-    if (isConnected() && *address == address_) {
+    // With a guid in it, the address of each bus is unlike all others.
+    if (isConnected() && *address == address_ && address->contains(u"guid=")) {
         return true;
     }
     if (!connection_.name().isEmpty()) {
