@@ -87,6 +87,7 @@ void SlashMenuController::createMenuWindow() {
         *platform_.windowServer, ui::Element(std::move(keyboard)),
         ui::RoundedRectangle{SlashMenuView::cornerRadius}, platform::KeyboardFocus::WhenInFront);
     menuWindow_->setObjectName(QStringLiteral("slashMenu"));
+    menuWindow_->setAccessibleName(QStringLiteral("Commands"));
 }
 
 void SlashMenuController::fitWindow() {

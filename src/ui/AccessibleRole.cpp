@@ -92,9 +92,9 @@ void setAccessibleRole(QWidget& widget, QAccessible::Role role) {
 
 void setAccessiblySelected(QWidget& item, bool selected) {
     item.setProperty(selectedProperty, selected);
-    QAccessible::State changed;
-    changed.selected = true;
-    QAccessibleStateChangeEvent event(&item, changed);
+    // A change of the state alone is not passed on everywhere.
+    QAccessibleEvent event(&item,
+                           selected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove);
     QAccessible::updateAccessibility(&event);
 }
 

@@ -18,11 +18,8 @@ struct FakeKeyEvent final : platform::KeyEvent {
     void setFlags(std::uint64_t flags) override { key.flags = flags; }
 };
 
-/// Keys that a test presses by name have no scan code; these have their place on every keyboard.
+/// A key that is pressed by its name has no scan code; these have their place on every keyboard.
 std::optional<platform::KeyCode> positionByName(const QKeyEvent& event) {
-    if (event.nativeScanCode() != 0) {
-        return std::nullopt;
-    }
     switch (event.key()) {
     case Qt::Key_Return:
         return 36;

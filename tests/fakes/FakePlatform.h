@@ -269,8 +269,8 @@ public:
     FakeApplicationIcons& applicationIcons;
     FakeAccessibility& accessibility;
     FakeKeyboardEvents& keyboardEvents;
-    /// What the key of an event is, by its scan code; Return, Escape and the vertical arrows are
-    /// known without one.
+    /// What the key of an event is, by its scan code. What is not among these is known by its name
+    /// if it is Return, Escape or a vertical arrow.
     std::map<quint32, platform::KeyCode> keyPositions;
     FakeGlobalKeyMonitor& globalKeyMonitor;
     FakePointerMonitor& pointerMonitor;

@@ -6,6 +6,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <cstdio>
 
 namespace gallery {
 
@@ -15,6 +16,10 @@ namespace {
 Entry slash(const char* name, int rowsDown, const char* search = "") {
     return {QString::fromLatin1(name), [=](fakes::FakePlatform&, const QString& text) {
                 auto menu = std::make_shared<slash::SlashMenuController>();
+                menu->onCommandSelected = [](slash::SlashCommand command) {
+                    std::puts(qPrintable(slash::rawValue(command)));
+                    std::fflush(stdout);
+                };
                 menu->show({60, -60});
                 const auto windows = QApplication::topLevelWidgets();
                 QWidget* window =
