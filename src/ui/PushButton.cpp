@@ -45,7 +45,7 @@ protected:
         const bool prominent = style_ == ButtonStyle::Prominent && isEnabled();
         const QRectF bezel(rect());
         painter.fillPath(shape.path(bezel),
-                         color({prominent ? Color::Accent : Color::ControlFace}, palette()));
+                         color({prominent ? Color::AccentBehindText : Color::ControlFace}, palette()));
         if (isEnabled() && (isDown() || underMouse())) {
             painter.fillPath(shape.path(bezel),
                              color({Color::Label, isDown() ? 0.16 : 0.06}, palette()));
@@ -55,7 +55,7 @@ protected:
             painter.strokePath(outline.path(bezel.adjusted(0.5, 0.5, -0.5, -0.5)),
                                QPen(color({Color::ControlBorder}, palette()), 1));
         }
-        painter.setPen(color({prominent ? Color::OnAccent : Color::Label}, palette()));
+        painter.setPen(color({prominent ? Color::White : Color::Label}, palette()));
         painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
     }
 
