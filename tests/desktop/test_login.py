@@ -10,6 +10,7 @@ import wait
 from case import DesktopCase, EXECUTABLE
 from entries import Entries
 from program import Program
+from session_manager import RESTART_NEVER, SessionManager
 
 # Everything that means something to those who read an Exec line, on the way to the program.
 FOLDERS = ("my \"apps\" \\ $HOME `id`; 'ü' & a=b", "100%u $0 a=b %%")
@@ -75,6 +76,14 @@ class LoginTest(DesktopCase):
                 program = self.start_program()
                 wait.until(lambda: not os.path.exists(self.entry), 5.0, "the entry is gone")
                 program.end()
+
+    def test_a_session_manager_is_told_not_to_start_it_as_well(self):
+        manager = SessionManager()
+        program = Program(self.desktop, EXECUTABLE, environment={"SESSION_MANAGER": manager.address})
+        self.programs.append(program)
+        self.addCleanup(program.end)
+        manager.serve_until(lambda: manager.saved, 5.0, "the program has saved itself")
+        self.assertEqual(manager.properties["RestartStyleHint"], RESTART_NEVER)
 
 
 if __name__ == "__main__":

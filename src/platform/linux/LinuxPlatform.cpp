@@ -37,6 +37,7 @@
 #include <QDBusConnection>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QSessionManager>
 #include <QWindow>
 
 #include <csignal>
@@ -89,6 +90,15 @@ std::optional<KeyCode> positionOf(const QKeyEvent& event) {
                : std::nullopt;
 }
 
+/// The program's own entry says whether it starts at login. A session manager that restored it as
+/// well would start it a second time, and a second start opens the settings.
+void declineSessionRestore() {
+    QObject::connect(
+        qGuiApp, &QGuiApplication::saveStateRequest, qGuiApp,
+        [](QSessionManager& manager) { manager.setRestartHint(QSessionManager::RestartNever); },
+        Qt::DirectConnection);
+}
+
 void logWhatIsMissing(Foundation& foundation) {
     if (!foundation.session.isConnected()) {
         core::log(u"no session bus: selections cannot be read, a second start is not noticed, and "
@@ -130,6 +140,7 @@ std::unique_ptr<Platform> makePlatform(std::unique_ptr<ProgramInstance> programI
         core::fatal(u"the X server went away during the start");
     }
     setWindowClass(QStringLiteral("corvane-quillet"));
+    declineSessionRestore();
     auto platform = std::make_unique<Platform>();
     platform->programInstance = std::move(programInstance);
     platform->runLoop = std::make_unique<QtRunLoop>();
