@@ -7,13 +7,17 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <functional>
 
 namespace gallery {
 
 namespace {
 
-/// The menu with its highlight moved down some rows.
-Entry slash(const char* name, int rowsDown, const char* search = "") {
+using slash::SlashCommand;
+
+/// The menu after its user has done something.
+Entry slash(const char* name, std::function<void(QWidget& window, QWidget& field)> use,
+            const char* search = "") {
     return {QString::fromLatin1(name), [=](fakes::FakePlatform&, const QString& text) {
                 auto menu = std::make_shared<slash::SlashMenuController>();
                 menu->onCommandSelected = [](slash::SlashCommand command) {
@@ -26,18 +30,33 @@ Entry slash(const char* name, int rowsDown, const char* search = "") {
                     *std::ranges::find(windows, QStringLiteral("slashMenu"), &QObject::objectName);
                 auto* field = window->findChild<QWidget*>(QStringLiteral("search"));
                 QTest::keyClicks(field, text.isEmpty() ? QString::fromLatin1(search) : text);
-                for (int row = 0; row < rowsDown; ++row) {
-                    QTest::keyClick(field, Qt::Key_Down);
-                }
+                use(*window, *field);
                 return Exhibit{menu, {window}, Exhibit::Ground::Page};
             }};
+}
+
+auto down(int rows) {
+    return [rows](QWidget&, QWidget& field) {
+        for (int row = 0; row < rows; ++row) {
+            QTest::keyClick(&field, Qt::Key_Down);
+        }
+    };
+}
+
+void pressTwoRows(QWidget& window, QWidget&) {
+    QApplication::processEvents();
+    for (const SlashCommand command : {SlashCommand::heading1, SlashCommand::heading3}) {
+        QTest::mousePress(window.findChild<QWidget*>(slash::id(command)), Qt::LeftButton);
+    }
 }
 
 } // namespace
 
 std::vector<Entry> slashEntries() {
-    return {slash("slash", 0), slash("slash-scrolled", 7), slash("slash-search", 1, "list"),
-            slash("slash-nothing-found", 0, "nothing has this")};
+    return {slash("slash", down(0)), slash("slash-scrolled", down(7)),
+            slash("slash-search", down(1), "list"),
+            slash("slash-nothing-found", down(0), "nothing has this"),
+            slash("slash-pressed", pressTwoRows)};
 }
 
 } // namespace gallery

@@ -84,6 +84,22 @@ TEST_F(SlashMenuController, TheMenuIsAsTallAsWhatMatchesAndKeepsItsTopEdge) {
     EXPECT_EQ(frame(), (Rect{300, 540, 320, 360}));
 }
 
+TEST_F(SlashMenuController, WithoutACompositorTheWindowHasTheMenusShape) {
+    fake_.windowServer.translucency = false;
+    show();
+    for (const char* search : {"", "list"}) {
+        type(search);
+        comeToRest();
+        const QRect whole = window().rect();
+        const QRegion shape = window().mask();
+        EXPECT_EQ(shape.boundingRect(), whole) << search;
+        for (const QPoint edge :
+             {whole.topLeft(), whole.topRight(), whole.bottomLeft(), whole.bottomRight()}) {
+            EXPECT_FALSE(shape.contains(edge)) << search;
+        }
+    }
+}
+
 TEST_F(SlashMenuController, EscapeHidesItAndItStartsAfresh) {
     show();
     press(Qt::Key_Down, 9);
