@@ -4,6 +4,7 @@
 #include "settings/views/SettingsView.h"
 #include "ui/TitledWindow.h"
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QTabBar>
 #include <QTest>
@@ -36,7 +37,9 @@ void installApplications(fakes::FakeApplicationBundles& bundles) {
     }
 }
 
-Entry tab(const QString& name, Tab tab, const Arrange& arrange) {
+Entry tab(
+    const QString& name, Tab tab, const Arrange& arrange,
+    const std::function<void(QWidget& window)>& use = [](QWidget&) {}) {
     return {name, [=](fakes::FakePlatform& rooms, const QString& text) {
                 installApplications(rooms.applicationBundles);
                 auto settings = std::make_shared<Settings>(rooms);
@@ -48,6 +51,7 @@ Entry tab(const QString& name, Tab tab, const Arrange& arrange) {
                 if (auto* search = settings->window.findChild<QLineEdit*>(); !text.isEmpty()) {
                     QTest::keyClicks(search, text);
                 }
+                use(settings->window);
                 return Exhibit{settings, {&settings->window}};
             }};
 }
@@ -59,6 +63,15 @@ std::vector<Entry> settingsEntries() {
         tab(QStringLiteral("settings-behavior"), Behavior, [](auto&) {}),
         tab(QStringLiteral("settings-behavior-shortcut"), Behavior,
             [](auto& manager) { manager.useKeyboardShortcut = true; }),
+        tab(
+            QStringLiteral("settings-behavior-recording"), Behavior,
+            [](auto& manager) { manager.useKeyboardShortcut = true; },
+            [](QWidget& window) {
+                QApplication::processEvents();
+                QTest::mouseClick(
+                    window.findChild<QWidget*>(QStringLiteral("ShortcutRecorderButton")),
+                    Qt::LeftButton);
+            }),
         tab(QStringLiteral("settings-apps-all"), Apps, [](auto&) {}),
         tab(QStringLiteral("settings-apps"), Apps,
             [](auto& manager) {
