@@ -65,7 +65,7 @@ class SignalTest(DesktopCase):
             self.hands.release("Shift_L")
 
     def test_it_ends_while_a_window_of_its_own_waits_for_the_user(self):
-        for entry in ("Check Accessibility...", "Settings..."):
+        for entry in ("Check Accessibility...", "Settings...", "Feedback senden …"):
             with self.subTest(entry):
                 program = self.start_program()
                 program.wait_for_icon(self.tray).choose(entry)
