@@ -9,6 +9,7 @@
 #include "monitor/NotesMonitor.h"
 #include "settings/views/SettingsView.h"
 #include "ui/TitledWindow.h"
+#include "updates/UpdateController.h"
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -31,6 +32,8 @@ AppDelegate::AppDelegate(platform::Platform& platform, settings::AppSettingsMana
     : platform_(platform)
     , settings_(settings)
     , updaterController_(*platform.updater)
+    , updateController_(std::make_unique<updates::UpdateController>(platform))
+    , updatePresenter_(updaterController_.setPresenter(*updateController_))
     , menuTracking_(statusMenu_.menu(), *platform.runLoop, *platform.pointerMonitor) {}
 
 AppDelegate::~AppDelegate() = default;

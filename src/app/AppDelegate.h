@@ -21,6 +21,9 @@ class NotesMonitor;
 namespace settings {
 class AppSettingsManager;
 }
+namespace updates {
+class UpdateController;
+}
 
 namespace app {
 
@@ -57,6 +60,8 @@ private:
     platform::Platform& platform_;
     settings::AppSettingsManager& settings_;
     platform::Updater& updaterController_;
+    std::unique_ptr<updates::UpdateController> updateController_;
+    core::Registration updatePresenter_;
 
     StatusMenu statusMenu_;
     MenuTracking menuTracking_;

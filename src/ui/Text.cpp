@@ -46,7 +46,8 @@ public:
 
     QSize sizeHint() const override {
         const QFontMetrics metrics = fontMetrics();
-        return {metrics.horizontalAdvance(text_), metrics.height()};
+        // Broken into lines, a text needs a fraction of a point more than it advances.
+        return {metrics.horizontalAdvance(text_) + (wraps_ ? 1 : 0), metrics.height()};
     }
 
     QSize minimumSizeHint() const override {

@@ -21,6 +21,7 @@ public:
         setFont(ui::font(13, Weight::Regular));
         setFrameShape(QFrame::NoFrame);
         setTabChangesFocus(true);
+        setReadOnly(options.isReadOnly);
         setMinimumHeight(options.minimumHeight);
         // Room for a border.
         setViewportMargins(1, 1, 1, 1);

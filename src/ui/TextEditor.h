@@ -8,6 +8,8 @@ namespace ui {
 struct TextEditorOptions {
     int minimumHeight = 0;
     QString accessibilityLabel;
+    /// The user can read, scroll and copy, and not change it.
+    bool isReadOnly = false;
 };
 
 /// Several lines of plain text that the user can edit. Tab leaves it.

@@ -21,14 +21,15 @@ MAY_INCLUDE = {
     "slash": {"ui", "platform", "core"},
     "feedback": {"settings", "ui", "platform", "core"},
     "markdown": {"core"},
-    "app": {"bar", "slash", "feedback", "settings", "monitor", "markdown", "ui", "platform", "core"},
+    "updates": {"ui", "platform", "core"},
+    "app": {"bar", "slash", "feedback", "settings", "monitor", "markdown", "updates", "ui", "platform", "core"},
 }
 # The format catalogue is a leaf: the tables of keystroke automation are written in its terms.
 EXCEPTIONS = {("monitor", "bar/TextFormat.h")}
 # Bar knows keystroke automation only, neither the monitor nor the settings.
 NARROW = {("bar", "monitor"): {"monitor/NotesAutomation.h"}}
 # Models and services know neither views nor widgets.
-WIDGET_FREE = {"core", "settings", "monitor", "feedback", "slash", "markdown"}
+WIDGET_FREE = {"core", "settings", "monitor", "feedback", "slash", "markdown", "updates"}
 WIDGET_HEADERS = re.compile(
     r"<(QtWidgets/|QWidget|QLabel|QPushButton|QLayout|Q[HV]BoxLayout|QApplication|QDialog|QMenu)")
 SYSTEM_CONDITION = re.compile(

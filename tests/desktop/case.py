@@ -44,9 +44,9 @@ class DesktopCase(unittest.TestCase):
         result = self._outcome.result
         return any(test is self for test, _ in result.failures + result.errors)
 
-    def start_program(self, **options):
+    def start_program(self, executable=EXECUTABLE, **options):
         """A program that runs until the test is over; its icon is there."""
-        program = Program(self.desktop, EXECUTABLE, **options)
+        program = Program(self.desktop, executable, **options)
         self.programs.append(program)
         self.addCleanup(program.end)
         if self.with_tray:

@@ -22,5 +22,6 @@ std::vector<Entry> feedbackEntries();
 std::vector<Entry> settingsEntries();
 std::vector<Entry> slashEntries();
 std::vector<Entry> symbolEntries();
+std::vector<Entry> updateEntries();
 
 } // namespace gallery

@@ -2,12 +2,15 @@
 
 #include "core/Fatal.h"
 #include "core/Log.h"
-#include "platform/linux/InertUpdater.h"
 #include "platform/linux/LinuxSystemInfo.h"
 #include "platform/linux/TerminationSignals.h"
+#include "platform/linux/appcast/AppcastConfiguration.h"
+#include "platform/linux/appcast/AppcastUpdater.h"
+#include "platform/linux/appcast/HttpsFeedTransport.h"
 #include "platform/linux/atspi/AtSpiAccessibility.h"
 #include "platform/linux/freedesktop/ApplicationFolders.h"
 #include "platform/linux/freedesktop/BusLoss.h"
+#include "platform/linux/freedesktop/BusUserNotifications.h"
 #include "platform/linux/freedesktop/DesktopApplicationBundles.h"
 #include "platform/linux/freedesktop/DesktopEntryIndex.h"
 #include "platform/linux/freedesktop/JsonUserDefaults.h"
@@ -53,7 +56,8 @@ struct Foundation {
     Foundation(std::shared_ptr<XcbConnection> x11, RunLoop& runLoop)
         : connection(std::move(x11))
         , desktopEntries(runLoop, ApplicationFolders::fromEnvironment().byPrecedence(),
-                         localeSuffixes(messagesLocale())) {}
+                         localeSuffixes(messagesLocale()))
+        , feedTransport(runLoop) {}
 
     TerminationSignals terminationSignals;
     QDBusConnection session = QDBusConnection::sessionBus();
@@ -70,6 +74,8 @@ struct Foundation {
     std::shared_ptr<XInputEvents> inputEvents = XInputEvents::create(*connection, ownKeyStrokes);
     StatusNotifierHost statusNotifierHost{session};
     XEmbedTray xembedTray{connection};
+    BusUserNotifications notifications{session};
+    HttpsFeedTransport feedTransport;
 };
 
 /// Gives every window the class by which desktops find the program's desktop entry. The toolkit has
@@ -179,7 +185,9 @@ std::unique_ptr<Platform> makePlatform(std::unique_ptr<ProgramInstance> programI
     platform->statusItem = std::make_unique<StatusNotifierStatusItem>(
         *platform->runLoop, shared.statusNotifierHost, shared.xembedTray);
     platform->alerts = std::make_unique<QtAlerts>();
-    platform->updater = std::make_unique<InertUpdater>();
+    platform->updater = std::make_unique<AppcastUpdater>(
+        appcastConfiguration(*platform->systemInfo), *platform->runLoop, shared.feedTransport,
+        *platform->workspace, shared.notifications);
     return platform;
 }
 

@@ -16,16 +16,20 @@ constexpr std::size_t mostItems = 2'000;
 constexpr QLatin1String rss("");
 constexpr QLatin1String sparkle("http://www.andymatuschak.org/xml-namespaces/sparkle");
 
+/// One line without anything that could pass for something else where it is shown.
+QString word(QString text) {
+    text = text.simplified();
+    text.removeIf([](QChar character) { return !character.isPrint(); });
+    return text;
+}
+
 QString word(BoundedXml& xml) {
-    return xml.text(longestVersion).simplified();
+    return word(xml.text(longestVersion));
 }
 
 QString attribute(const BoundedXml& xml, const char* name) {
     const auto attributes = xml.attributes();
-    return attributes.value(sparkle, QLatin1String(name))
-        .left(longestVersion)
-        .toString()
-        .simplified();
+    return word(attributes.value(sparkle, QLatin1String(name)).left(longestVersion).toString());
 }
 
 /// Nothing but a page for a browser: a feed must not make the desktop open anything else.

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "platform/RunLoop.h"
+#include "platform/Updater.h"
+#include "platform/Workspace.h"
+#include "platform/linux/UserNotifications.h"
+#include "platform/linux/appcast/AppcastConfiguration.h"
+#include "platform/linux/appcast/FeedTransport.h"
+#include "platform/linux/appcast/UpdateRecord.h"
+
+namespace platform {
+
+/// Learns of newer versions from an appcast: once a day by itself, telling the user by a
+/// notification alone, and whenever the user asks. Downloads and runs nothing; the user's browser
+/// shows where a newer version is to be had.
+class AppcastUpdater final : public Updater {
+public:
+    /// All but the configuration must outlive the updater.
+    AppcastUpdater(AppcastConfiguration configuration, RunLoop& runLoop, FeedTransport& transport,
+                   Workspace& workspace, UserNotifications& notifications);
+
+    void startUpdater() override;
+    void checkForUpdates() override;
+    core::Registration setPresenter(UpdatePresenter& presenter) override;
+
+private:
+    enum class Occasion { Daily, Asked };
+
+    void lookIfDue();
+    void look();
+    void conclude(const FeedAnswer& answer);
+    void present(const UpdateAnswer& answer, std::function<void(UpdateChoice)> choose);
+    void presentUpdate(const AppcastItem& item);
+    void notify(const AppcastItem& item);
+    void open(const QUrl& page);
+
+    AppcastConfiguration configuration_;
+    RunLoop& runLoop_;
+    FeedTransport& transport_;
+    Workspace& workspace_;
+    UserNotifications& notifications_;
+    UpdateRecord record_;
+    UpdatePresenter* presenter_ = nullptr;
+    /// What the look that is going on, if any, is for.
+    std::optional<Occasion> occasion_;
+    core::Registration download_;
+    core::Registration hourly_;
+    core::Registration notification_;
+};
+
+} // namespace platform

@@ -1,0 +1,169 @@
+"""The update check of the program: what the menu entry answers, and how quiet the daily look is.
+
+A second executable takes the place of the shipped one where there is a feed: the same objects, with
+the address of a server of ours and its authority in place of the build's own."""
+
+import json
+import os
+import unittest
+
+from gi.repository import GLib
+
+import wait
+from case import DesktopCase
+from controls import Controls
+from feed import Feed
+from gnote import Gnote
+from notifications import Notifications
+
+ELSEWHERE = os.path.join(os.environ.get("QUILLET_BUILD", "build/dev"), "tests",
+                         "corvane-quillet-elsewhere")
+TITLE = "Corvane Quillet Updates"
+MENU_ENTRY = "Auf Updates prüfen …"
+START_DELAY = 3.0
+
+
+class UpdateCase(DesktopCase):
+
+    def ask(self, program):
+        program.wait_for_icon(self.tray).choose(MENU_ENTRY)
+
+    def window(self, program):
+        return self.windows.client_of(program.pid, TITLE)
+
+    def wait_for_answer(self, program, *words):
+        """Waits until the update window is in front and shows all these words."""
+        def shows():
+            try:
+                return self.window(program) and set(words) <= {
+                    name for _, name in Controls(self.desktop.accessibility, program.pid).all()}
+            except GLib.Error:
+                return False  # One answer takes the place of another under our feet.
+        program.wait_until(shows, 5.0, f"the window shows {words}")
+        program.wait_until(lambda: self.windows.focused_pid() == program.pid, 3.0,
+                           "the window has the keyboard")
+
+    def press(self, program, button):
+        Controls(self.desktop.accessibility, program.pid).find("push button", button).do("Press")
+        program.wait_until(lambda: not self.window(program), 3.0, "the window is closed")
+
+    def state_path(self):
+        return os.path.join(self.desktop.session.environment["HOME"],
+                            ".local/state/corvane-quillet/updates.json")
+
+
+class WithoutFeedTest(UpdateCase):
+
+    def test_it_says_where_updates_come_from_as_often_as_asked(self):
+        program = self.start_program()
+        for _ in range(2):
+            self.ask(program)
+            self.wait_for_answer(program, "Updates come with the system's packages", "OK")
+            self.hands.press("Return")
+            program.wait_until(lambda: not self.window(program), 3.0, "the window is closed")
+        self.assertFalse(os.path.exists(self.state_path()))
+
+
+class WithFeedTest(UpdateCase):
+
+    def setUp(self):
+        super().setUp()
+        if os.path.exists(self.state_path()):
+            os.remove(self.state_path())
+        self.feed = Feed(self.desktop.session)
+        self.addCleanup(self.feed.close)
+        self.notifications = Notifications(self.desktop.session)
+        self.addCleanup(self.notifications.close)
+
+    def start(self, **environment):
+        return self.start_program(executable=ELSEWHERE,
+                                  environment={**self.feed.environment, **environment})
+
+    def wait_for_daily_look(self, program):
+        before = self.feed.requests()
+        program.wait_until(lambda: self.feed.requests() > before, START_DELAY + 5.0,
+                           "the program looks by itself")
+
+    def test_a_version_that_the_user_skips_is_told_only_when_asked_for(self):
+        self.feed.publish("1.1", notes="<ul><li>It is <b>new</b></li></ul>")
+        program = self.start()
+        self.ask(program)
+        self.wait_for_answer(program, "Corvane Quillet 1.1 is available",
+                             "You have version 1.0.2.", "What is new")
+        self.press(program, "Skip This Version")
+        program.end()
+
+        with open(self.state_path(), encoding="utf-8") as file:
+            state = json.load(file)
+        self.assertEqual(state["skippedVersion"]["version"], "1.1")
+        del state["lastCheck"]  # As if a day had gone by.
+        with open(self.state_path(), "w", encoding="utf-8") as file:
+            json.dump(state, file)
+        again = self.start()
+        self.wait_for_daily_look(again)
+        wait.throughout(lambda: not self.notifications.count, 1.0, "nothing is told")
+        self.ask(again)
+        self.wait_for_answer(again, "Corvane Quillet 1.1 is available")
+
+    def test_the_daily_look_tells_by_a_notification_and_leaves_the_keyboard_alone(self):
+        note = Gnote(self.desktop, "Writing", "A few words.")
+        self.addCleanup(self.desktop.session.end, note.process)
+        self.feed.publish("1.1")
+        program = self.start()
+        self.desktop.focus(note)
+        wait.throughout(lambda: not self.feed.requests(), START_DELAY - 2.0, "it does not look yet")
+        program.wait_until(lambda: self.notifications.shown, START_DELAY + 5.0, "a notification")
+        shown = self.notifications.shown[0]
+        self.assertEqual((shown.program, shown.summary),
+                         ("Corvane Quillet", "Corvane Quillet 1.1 is available"))
+        self.assert_at_work_in(note)
+        self.assertIsNone(self.window(program))
+
+        self.notifications.click(shown)
+        self.wait_for_answer(program, "Corvane Quillet 1.1 is available")
+        self.press(program, "Later")
+        self.assertEqual(self.feed.requests(), 1)
+
+    def test_the_download_page_opens_in_the_browser_and_nothing_but_a_page(self):
+        folder = self.desktop.session.path("browser")
+        os.makedirs(folder, exist_ok=True)
+        opened = os.path.join(folder, "opened")
+        with open(os.path.join(folder, "xdg-open"), "w", encoding="utf-8") as script:
+            script.write(f'#!/bin/sh\necho "$1" >> {opened}\n')
+        os.chmod(script.name, 0o755)
+        self.feed.publish("1.1", page="https://quillet.invalid/download?a=1&amp;b=$(id)")
+        program = self.start(PATH=f"{folder}:{os.environ['PATH']}")
+        self.ask(program)
+        self.wait_for_answer(program, "Open Download Page")
+        self.press(program, "Open Download Page")
+        program.wait_until(lambda: os.path.exists(opened), 3.0, "the browser is asked")
+        with open(opened, encoding="utf-8") as file:
+            self.assertEqual(file.read(), "https://quillet.invalid/download?a=1&b=$(id)\n")
+
+        for page in ("javascript:alert(1)", "file:///etc/passwd"):
+            self.feed.publish("1.1", page=page)
+            self.ask(program)
+            self.wait_for_answer(program, "Later")
+            self.assertIsNone(Controls(self.desktop.accessibility, program.pid).shown(
+                "push button", "Open Download Page"))
+            self.press(program, "Later")
+
+    def test_it_answers_every_feed_and_no_feed_at_all(self):
+        program = self.start()
+        self.feed.publish("1.0.2")
+        self.ask(program)
+        self.wait_for_answer(program, "Corvane Quillet is up to date",
+                             "Version 1.0.2 is the newest one.")
+        self.feed.publish_text('<!DOCTYPE r [<!ENTITY a "a">]><rss>&a;</rss>')
+        self.ask(program)
+        self.wait_for_answer(
+            program, "Looking for a newer version failed",
+            "The update feed could not be read: line 1: document types are not accepted")
+        self.feed.close()
+        self.ask(program)
+        self.wait_for_answer(program, "The update feed could not be read: Connection refused")
+        self.press(program, "OK")
+
+
+if __name__ == "__main__":
+    unittest.main()

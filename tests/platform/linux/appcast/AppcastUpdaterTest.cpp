@@ -1,0 +1,277 @@
+#include "platform/linux/appcast/AppcastUpdater.h"
+
+#include "fakes/FakePlatform.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace platform {
+
+namespace {
+
+struct FakeTransport final : FeedTransport {
+    std::vector<QUrl> asked;
+    std::function<void(FeedAnswer)> answered;
+
+    core::Registration fetch(const QUrl& address, std::function<void(FeedAnswer)> done) override {
+        asked.push_back(address);
+        answered = std::move(done);
+        return core::Registration([this] { answered = nullptr; });
+    }
+    void answer(FeedAnswer answer) {
+        ASSERT_TRUE(answered);
+        const auto handler = answered;
+        handler(std::move(answer));
+    }
+};
+
+struct FakeNotifications final : UserNotifications {
+    std::vector<UserNotification> shown;
+    std::function<void()> activated;
+
+    core::Registration show(const UserNotification& notification,
+                            std::function<void()> handler) override {
+        shown.push_back(notification);
+        activated = std::move(handler);
+        return core::Registration([this] { activated = nullptr; });
+    }
+};
+
+struct FakePresenter final : UpdatePresenter {
+    std::vector<UpdateAnswer> shown;
+    std::function<void(UpdateChoice)> choose;
+
+    void present(const UpdateAnswer& answer, std::function<void(UpdateChoice)> handler) override {
+        shown.push_back(answer);
+        choose = std::move(handler);
+    }
+    template <typename Answer>
+    const Answer* last() const {
+        return shown.empty() ? nullptr : std::get_if<Answer>(&shown.back());
+    }
+};
+
+QByteArray feedWith(const QByteArray& version, const QByteArray& more = {}) {
+    return R"(<rss xmlns:s="http://www.andymatuschak.org/xml-namespaces/sparkle"><channel><item>
+        <link>https://quillet.invalid/download</link><s:shortVersionString>)" +
+           version +
+           "</s:shortVersionString><s:version>9</s:version><description>&lt;li&gt;New</"
+           "description>" +
+           more + "</item></channel></rss>";
+}
+
+class AppcastUpdaterTest : public testing::Test {
+protected:
+    static constexpr double hour = 3600;
+
+    std::unique_ptr<AppcastUpdater>
+    makeUpdater(const QString& address = QStringLiteral("https://quillet.invalid/feed")) {
+        auto updater = std::make_unique<AppcastUpdater>(
+            AppcastConfiguration{address,
+                                 {{QStringLiteral("1.0.2"), QStringLiteral("7")}, {12, 0, 0}},
+                                 {QStringLiteral("linux"), {}},
+                                 folder.filePath(QStringLiteral("state/updates.json")),
+                                 [this] {
+                                     return QDateTime({2026, 11, 23}, {12, 0}, Qt::UTC)
+                                         .addMSecs(qint64(system.runLoop.now() * 1000));
+                                 }},
+            system.runLoop, transport, system.workspace, notifications);
+        presenting = updater->setPresenter(presenter);
+        return updater;
+    }
+
+    QTemporaryDir folder;
+    fakes::FakePlatform system;
+    FakeTransport transport;
+    FakeNotifications notifications;
+    FakePresenter presenter;
+    core::Registration presenting;
+};
+
+TEST_F(AppcastUpdaterTest, looks_once_a_day_from_the_start_on_and_over_restarts) {
+    auto updater = makeUpdater();
+    system.runLoop.advance(30 * hour);
+    EXPECT_TRUE(transport.asked.empty());
+
+    updater->startUpdater();
+    updater->startUpdater();
+    ASSERT_EQ(transport.asked.size(), 1U);
+    transport.answer(feedWith("1.0.1"));
+    system.runLoop.advance(23.5 * hour);
+    EXPECT_EQ(transport.asked.size(), 1U);
+
+    updater = makeUpdater();
+    updater->startUpdater();
+    EXPECT_EQ(transport.asked.size(), 1U);
+    system.runLoop.advance(hour);
+    EXPECT_EQ(transport.asked.size(), 2U);
+    EXPECT_TRUE(presenter.shown.empty());
+    EXPECT_TRUE(notifications.shown.empty());
+}
+
+TEST_F(AppcastUpdaterTest, tries_a_look_that_failed_again_within_the_hour_and_says_nothing) {
+    const auto updater = makeUpdater();
+    updater->startUpdater();
+    transport.answer(AppcastError{QStringLiteral("no network yet")});
+    system.runLoop.advance(hour);
+    ASSERT_EQ(transport.asked.size(), 2U);
+    transport.answer(QByteArray("<html/>"));
+    system.runLoop.advance(hour);
+    EXPECT_EQ(transport.asked.size(), 3U);
+    EXPECT_TRUE(presenter.shown.empty());
+    EXPECT_TRUE(notifications.shown.empty());
+}
+
+TEST_F(AppcastUpdaterTest, a_clock_that_is_set_back_does_not_put_the_next_look_off) {
+    QDir(folder.path()).mkpath(QStringLiteral("state"));
+    QFile file(folder.filePath(QStringLiteral("state/updates.json")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(R"({"lastCheck": "2031-01-01T00:00:00Z"})");
+    file.close();
+    makeUpdater()->startUpdater();
+    EXPECT_EQ(transport.asked.size(), 1U);
+}
+
+TEST_F(AppcastUpdaterTest, tells_of_a_newer_version_by_a_notification_that_leads_to_the_window) {
+    const auto updater = makeUpdater();
+    updater->startUpdater();
+    transport.answer(feedWith("1.1"));
+    ASSERT_EQ(notifications.shown.size(), 1U);
+    EXPECT_EQ(notifications.shown[0].summary, QStringLiteral("Corvane Quillet 1.1 is available"));
+    EXPECT_TRUE(presenter.shown.empty());
+
+    const auto activate = notifications.activated;
+    activate();
+    const auto* update = presenter.last<UpdateAvailable>();
+    ASSERT_NE(update, nullptr);
+    EXPECT_EQ(update->version, QStringLiteral("1.1"));
+    EXPECT_EQ(update->installedVersion, QStringLiteral("1.0.2"));
+    EXPECT_EQ(update->notes, QStringLiteral("• New"));
+    EXPECT_FALSE(notifications.activated);
+}
+
+TEST_F(AppcastUpdaterTest,
+       keeps_silent_on_a_skipped_version_but_not_on_the_next_or_a_critical_one) {
+    auto updater = makeUpdater();
+    updater->checkForUpdates();
+    transport.answer(feedWith("1.1"));
+    presenter.choose(UpdateChoice::SkipVersion);
+
+    updater = makeUpdater();
+    updater->startUpdater();
+    const auto nextDay = [&](const QByteArray& feed) {
+        system.runLoop.advance(24 * hour);
+        transport.answer(feed);
+        return notifications.shown.size();
+    };
+    EXPECT_EQ(nextDay(feedWith("1.1")), 0U);
+    EXPECT_EQ(nextDay(feedWith("1.1", "<s:criticalUpdate/>")), 1U);
+    EXPECT_EQ(nextDay(feedWith("1.1.1")), 2U);
+
+    // Who asks is told all the same.
+    updater->checkForUpdates();
+    transport.answer(feedWith("1.1"));
+    EXPECT_NE(presenter.last<UpdateAvailable>(), nullptr);
+}
+
+TEST_F(AppcastUpdaterTest, always_answers_when_asked) {
+    const auto updater = makeUpdater();
+    updater->checkForUpdates();
+    EXPECT_NE(presenter.last<CheckingForUpdates>(), nullptr);
+    transport.answer(feedWith("1.0.2"));
+    EXPECT_EQ(presenter.last<UpdateAvailable>()->version, QStringLiteral("1.0.2 (9)"));
+    EXPECT_EQ(presenter.last<UpdateAvailable>()->installedVersion, QStringLiteral("1.0.2 (7)"));
+
+    updater->checkForUpdates();
+    transport.answer(feedWith("1.0.1"));
+    ASSERT_NE(presenter.last<ProgramIsUpToDate>(), nullptr);
+    EXPECT_EQ(presenter.last<ProgramIsUpToDate>()->installedVersion, QStringLiteral("1.0.2"));
+
+    updater->checkForUpdates();
+    transport.answer(AppcastError{QStringLiteral("the server did not answer in time")});
+    ASSERT_NE(presenter.last<UpdateCheckFailed>(), nullptr);
+    EXPECT_EQ(presenter.last<UpdateCheckFailed>()->reason,
+              QStringLiteral("the server did not answer in time"));
+}
+
+TEST_F(AppcastUpdaterTest, answers_from_the_daily_look_that_is_under_way_when_asked) {
+    const auto updater = makeUpdater();
+    updater->startUpdater();
+    updater->checkForUpdates();
+    updater->checkForUpdates();
+    EXPECT_EQ(transport.asked.size(), 1U);
+    transport.answer(feedWith("1.1"));
+    EXPECT_NE(presenter.last<UpdateAvailable>(), nullptr);
+    EXPECT_TRUE(notifications.shown.empty());
+}
+
+TEST_F(AppcastUpdaterTest, a_look_that_the_user_called_off_is_over) {
+    const auto updater = makeUpdater();
+    updater->checkForUpdates();
+    presenter.choose(UpdateChoice::Dismiss);
+    EXPECT_FALSE(transport.answered);
+    EXPECT_EQ(presenter.shown.size(), 1U);
+    updater->checkForUpdates();
+    EXPECT_EQ(transport.asked.size(), 2U);
+}
+
+TEST_F(AppcastUpdaterTest, opens_the_pages_of_the_feed_and_nothing_else) {
+    const auto updater = makeUpdater();
+    updater->checkForUpdates();
+    transport.answer(
+        feedWith("1.1", "<s:releaseNotesLink>https://quillet.invalid/notes</s:releaseNotesLink>"));
+    EXPECT_TRUE(presenter.last<UpdateAvailable>()->hasDownloadPage);
+    EXPECT_TRUE(presenter.last<UpdateAvailable>()->hasNotesPage);
+    presenter.choose(UpdateChoice::OpenReleaseNotes);
+    presenter.choose(UpdateChoice::OpenDownloadPage);
+    EXPECT_EQ(system.workspace.opened,
+              (std::vector{QUrl(QStringLiteral("https://quillet.invalid/notes")),
+                           QUrl(QStringLiteral("https://quillet.invalid/download"))}));
+
+    updater->checkForUpdates();
+    transport.answer(feedWith("1.1", "<link>javascript:alert(1)</link>"));
+    EXPECT_FALSE(presenter.last<UpdateAvailable>()->hasDownloadPage);
+}
+
+TEST_F(AppcastUpdaterTest, without_a_feed_says_where_updates_come_from) {
+    const auto updater = makeUpdater(QString());
+    updater->startUpdater();
+    system.runLoop.advance(48 * hour);
+    updater->checkForUpdates();
+    EXPECT_NE(presenter.last<UpdatesComeWithPackages>(), nullptr);
+    EXPECT_TRUE(transport.asked.empty());
+    EXPECT_FALSE(QFile::exists(folder.filePath(QStringLiteral("state"))));
+}
+
+TEST_F(AppcastUpdaterTest, remembers_nothing_from_a_file_that_is_not_its_own) {
+    QDir(folder.path()).mkpath(QStringLiteral("state"));
+    const QString path = folder.filePath(QStringLiteral("state/updates.json"));
+    for (const char* contents :
+         {"", "[]", "{", "\xff", "null",
+          R"({"lastCheck": 5, "rolloutGroup": 7, "skippedVersion": "1.1"})",
+          R"({"lastCheck": "today", "rolloutGroup": -1, "skippedVersion": {"version": 1}})",
+          R"({"lastCheck": null, "rolloutGroup": 1.5, "skippedVersion": {"build": "1"}})"}) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(contents);
+        file.close();
+        UpdateRecord record(path);
+        EXPECT_FALSE(record.lastCheck()) << contents;
+        EXPECT_FALSE(record.skipped()) << contents;
+        EXPECT_GE(record.rolloutGroup(), 0) << contents;
+        EXPECT_LT(record.rolloutGroup(), rolloutGroups) << contents;
+
+        record.skip({QStringLiteral("1.1"), QStringLiteral("9")});
+        record.setLastCheck(QDateTime({2026, 11, 23}, {12, 0}, Qt::UTC));
+        const UpdateRecord next(path);
+        EXPECT_EQ(next.lastCheck(), record.lastCheck());
+        EXPECT_EQ(next.rolloutGroup(), record.rolloutGroup());
+        ASSERT_TRUE(next.skipped());
+        EXPECT_EQ(next.skipped()->marketing + next.skipped()->build, QStringLiteral("1.19"));
+    }
+}
+
+} // namespace
+
+} // namespace platform
