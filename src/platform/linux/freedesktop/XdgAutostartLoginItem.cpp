@@ -49,11 +49,10 @@ QString execArgument(const QString& argument) {
 QString execLine(const QString& executable) {
     const QString program = execArgument(executable);
     // GLib's launcher looks for the program on the disk before it resolves "%%", and drops an entry
-    // whose program it does not find; in arguments it resolves it.
-    return executable.contains(u'%')
-               ? QStringLiteral("sh -c %1 %2")
-                     .arg(execArgument(QStringLiteral("exec \"$0\"")), program)
-               : program;
+    // whose program it does not find; in arguments it resolves it. Of the commands that only start
+    // their argument, this one takes a "=" in it for nothing special and needs no "$", which
+    // systemd's reader of these entries does not pass on.
+    return executable.contains(u'%') ? QStringLiteral("nice -n 0 ") + program : program;
 }
 
 /// Whether the desktop's own settings, or the user, switched the entry off.

@@ -63,7 +63,7 @@ TEST_F(XdgAutostartLoginItemTest, QuotesTheExecutableAsLaunchersReadIt) {
         {QStringLiteral("/opt/my apps/q"), R"(Exec="/opt/my apps/q")"},
         {QStringLiteral("/a\"b`c$d\\e"), R"(Exec="/a\\"b\\`c\\$d\\\\e")"},
         {QStringLiteral("/two\nlines"), R"(Exec="/two\nlines")"},
-        {QStringLiteral("/100%u"), R"(Exec=sh -c "exec \\"\\$0\\"" "/100%%u")"},
+        {QStringLiteral("/100%u"), R"(Exec=nice -n 0 "/100%%u")"},
         {QStringLiteral("/\u00e4/q"), "Exec=\"/\xc3\xa4/q\""},
     };
     for (const auto& [executable, line] : rows) {
