@@ -1,5 +1,6 @@
 """The settings window of the shipped program: opened, used with real hands, and obeyed."""
 
+import os
 import random
 import time
 import unittest
@@ -7,6 +8,7 @@ import unittest
 import wait
 from case import EXECUTABLE, DesktopCase
 from gnote import Gnote
+from portal import DARK, LIGHT, Portal
 from settings_window import SIZE, TITLE, SettingsWindow
 from windows import Rect
 
@@ -112,6 +114,47 @@ class WithNote(SettingsCase):
         program.wait_for_bar()
         self.assertGreater(time.monotonic() - selected, 0.9)
         self.assertLess(time.monotonic() - selected, 1.8)
+
+
+class LooksTest(SettingsCase):
+
+    def test_the_window_follows_the_desktops_preference_for_dark_windows(self):
+        portal = Portal(self.desktop.session, DARK)
+        self.addCleanup(portal.close)
+        window = self.open_settings(self.start_program())
+
+        def brightness():
+            corner = window.frame.right - 4, window.frame.bottom - 4
+            return max(self.desktop.camera.take(window.frame).colour(*corner))
+
+        wait.until(lambda: 20 < brightness() < 80, 3.0, "the window is dark")
+        portal.prefer(LIGHT)
+        wait.until(lambda: brightness() > 200, 3.0, "the window is light")
+        portal.prefer(DARK)
+        wait.until(lambda: 20 < brightness() < 80, 3.0, "the window is dark again")
+
+    def test_damaged_desktop_entries_are_skipped_and_the_others_listed(self):
+        folder = os.path.join(self.desktop.session.environment["XDG_DATA_HOME"], "applications")
+        os.makedirs(folder)
+        entry = "[Desktop Entry]\nType=Application\nExec=true\n"
+        for name, content in {"good": entry + "Name=Aa good one\n", "nameless": entry,
+                              "undecodable": entry + "Name=\udcff\udcfe\n",
+                              "half": "[Desktop Entry\nName=Aa half\n"}.items():
+            with open(os.path.join(folder, f"{name}.desktop"), "w", encoding="utf-8",
+                      errors="surrogateescape") as file:
+                file.write(content)
+        with open(os.path.join(folder, "huge.desktop"), "wb") as file:
+            file.truncate(5 << 30)
+        os.mkfifo(os.path.join(folder, "pipe.desktop"))
+        os.symlink("loop.desktop", os.path.join(folder, "loop.desktop"))
+        os.symlink(".", os.path.join(folder, "again"))
+        window = self.open_settings(self.start_program(settings={"useAllApps": False}))
+        window.click("page tab", "Apps")
+        window.controls.find("check box", "Aa good one")
+        shown = [name for role, name in window.controls.all() if role == "list item"]
+        self.assertEqual(shown[0], "Aa good one")
+        for name in shown[1:]:
+            self.assertNotIn(name, ("Aa half", "nameless", "undecodable", "huge", "pipe", "loop"))
 
 
 class KillTest(SettingsCase):

@@ -12,6 +12,7 @@
 #include "platform/linux/freedesktop/BusLoss.h"
 #include "platform/linux/freedesktop/BusUserNotifications.h"
 #include "platform/linux/freedesktop/DesktopApplicationBundles.h"
+#include "platform/linux/freedesktop/DesktopColorScheme.h"
 #include "platform/linux/freedesktop/DesktopEntryIndex.h"
 #include "platform/linux/freedesktop/JsonUserDefaults.h"
 #include "platform/linux/freedesktop/KeyFile.h"
@@ -76,6 +77,7 @@ struct Foundation {
     XEmbedTray xembedTray{connection};
     BusUserNotifications notifications{session};
     HttpsFeedTransport feedTransport;
+    DesktopColorScheme colorScheme{session};
 };
 
 /// Gives every window the class by which desktops find the program's desktop entry. The toolkit has
