@@ -5,8 +5,10 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QThread>
+#include <QTimer>
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <string>
 
 using platform::RunLoopMode;
@@ -84,8 +86,7 @@ TYPED_TEST(RunLoopContract, ATimerMayEndItselfWhileItFires) {
 
 TYPED_TEST(RunLoopContract, OnlyTimersOfTheDefaultModeRestWhileAMenuIsOpen) {
     auto& loop = this->time.loop;
-    const auto poll =
-        loop.scheduleRepeating(Seconds(0.01), RunLoopMode::Default, this->note('p'));
+    const auto poll = loop.scheduleRepeating(Seconds(0.01), RunLoopMode::Default, this->note('p'));
     loop.dispatchAfter(Seconds(0.02), this->note('q'));
     loop.beginMenuTracking();
     this->time.pass(0.05);
@@ -100,4 +101,23 @@ TYPED_TEST(RunLoopContract, HandsTheResultOfBackgroundWorkBack) {
     loop.dispatchInBackground(this->note('w'), this->note('r'));
     this->time.pass(0.1);
     EXPECT_EQ(this->calls, "wr");
+}
+
+TEST(QtRunLoop, LetsBackgroundWorkEndBeforeTheProgramHasQuit) {
+    platform::QtRunLoop loop;
+    std::atomic_bool ended = false;
+    std::atomic_bool begun = false;
+    loop.dispatchInBackground(
+        [&] {
+            begun = true;
+            QThread::msleep(100);
+            ended = true;
+        },
+        [] {});
+    while (!begun) {
+        QThread::yieldCurrentThread();
+    }
+    QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+    QCoreApplication::exec();
+    EXPECT_TRUE(ended);
 }

@@ -1,5 +1,6 @@
 #include "platform/qt/QtRunLoop.h"
 
+#include <QCoreApplication>
 #include <QPointer>
 #include <QThreadPool>
 #include <QTimer>
@@ -26,10 +27,22 @@ std::chrono::milliseconds wholeMilliseconds(Seconds duration) {
 
 } // namespace
 
-QtRunLoop::QtRunLoop() = default;
+namespace {
+
+void waitForBackgroundWork() {
+    QThreadPool::globalInstance()->waitForDone();
+}
+
+} // namespace
+
+QtRunLoop::QtRunLoop() {
+    // The rest of the platform, which background work uses, goes before the run loop does.
+    QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &context_,
+                     waitForBackgroundWork);
+}
 
 QtRunLoop::~QtRunLoop() {
-    QThreadPool::globalInstance()->waitForDone();
+    waitForBackgroundWork();
 }
 
 core::Registration QtRunLoop::scheduleRepeating(Seconds interval, RunLoopMode mode,
@@ -79,13 +92,12 @@ void QtRunLoop::dispatchAfter(Seconds delay, std::function<void()> work) {
     QTimer::singleShot(wholeMilliseconds(delay), Qt::PreciseTimer, &context_, std::move(work));
 }
 
-void QtRunLoop::dispatchInBackground(std::function<void()> work,
-                                     std::function<void()> completion) {
-    QThreadPool::globalInstance()->start(
-        [context = &context_, work = std::move(work), completion = std::move(completion)]() mutable {
-            work();
-            QMetaObject::invokeMethod(context, std::move(completion), Qt::QueuedConnection);
-        });
+void QtRunLoop::dispatchInBackground(std::function<void()> work, std::function<void()> completion) {
+    QThreadPool::globalInstance()->start([context = &context_, work = std::move(work),
+                                          completion = std::move(completion)]() mutable {
+        work();
+        QMetaObject::invokeMethod(context, std::move(completion), Qt::QueuedConnection);
+    });
 }
 
 void QtRunLoop::sleep(Seconds duration) {
