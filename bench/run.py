@@ -60,6 +60,7 @@ def main():
             row("the same, private", ours.private(), bare.private())
 
         measure(desktop, wanted.folder / "show-bar")
+        measure(desktop, wanted.folder / "app-list")
     with Desktop(width=3840, height=2160, window_manager=False, accessibility=False) as desktop:
         measure(desktop, wanted.folder / "capture-screen")
 
