@@ -133,7 +133,7 @@ TEST_F(PollingTest, BoundsThatDoNotComeAreNone) {
 }
 
 TEST_F(PollingTest, AnApplicationThatTellsItsTextButNeverItsBoundsIsLeftAloneForLongerEachTime) {
-    limits.deadline = 60ms;
+    limits.deadline = 400ms; // Enough for the rest, also on a busy machine.
     limits.longestTrust = 0ms; // Looks again each time it is allowed to.
     auto object = focusedText(QStringLiteral("one"), {{0, 3}});
     object.misbehaviours.insert(QStringLiteral("GetRangeExtents"),
@@ -152,7 +152,7 @@ TEST_F(PollingTest, AnApplicationThatTellsItsTextButNeverItsBoundsIsLeftAloneFor
 }
 
 TEST_F(PollingTest, ABusThatStandsStillHoldsNobodyUp) {
-    limits.deadline = 100ms;
+    limits.deadline = 500ms;
     showText(QStringLiteral("one"));
     start();
     ASSERT_TRUE(look().focused);
@@ -162,7 +162,7 @@ TEST_F(PollingTest, ABusThatStandsStillHoldsNobodyUp) {
     QElapsedTimer timer;
     timer.start();
     EXPECT_FALSE(look().focused);
-    EXPECT_LT(timer.elapsed(), 2000);
+    EXPECT_LT(timer.elapsed(), 5000);
     desktop.pauseAccessibilityBus(false);
 }
 
