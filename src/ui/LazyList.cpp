@@ -21,6 +21,7 @@ LazyList::LazyList(int rowHeight)
     setViewportMargins(0, 1, 0, 1);
     viewport()->setAutoFillBackground(false);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setAccessibleRole(*this, QAccessible::Grouping);
     setAccessibleRole(*viewport(), QAccessible::List);
 }
 
@@ -60,7 +61,8 @@ bool LazyList::event(QEvent* event) {
 
 void LazyList::focusInEvent(QFocusEvent*) {
     update();
-    tellCurrent();
+    // After the toolkit has told that the list itself has the keyboard.
+    QMetaObject::invokeMethod(this, &LazyList::tellCurrent, Qt::QueuedConnection);
 }
 
 void LazyList::focusOutEvent(QFocusEvent*) {

@@ -23,6 +23,7 @@ template <typename T>
 Element list(Binding<std::vector<T>> items, ListOptions<T> options) {
     auto widget = std::make_unique<LazyList>(options.rowHeight);
     LazyList& rows = *widget;
+    rows.setAccessibleName(options.accessibilityLabel);
     rows.viewport()->setAccessibleName(options.accessibilityLabel);
     const auto show = [&rows, options](const std::vector<T>& next) {
         const auto shown = std::make_shared<const std::vector<T>>(next);
