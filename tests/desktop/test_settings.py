@@ -162,7 +162,7 @@ class KillTest(SettingsCase):
     def test_a_kill_at_any_moment_leaves_a_whole_file(self):
         moment = random.Random(1)
         stops = {round(stop / 10, 1) for stop in range(21)}
-        for _ in range(8):
+        for _ in range(10):
             program = self.start_program(settings={"useAllApps": False})
             window = self.open_settings(program)
             slider = window.controls.find("slider", "Delay before appearing")
@@ -217,10 +217,19 @@ class ScreenReaderTest(SettingsCase):
         controls.find("label", "2 app(s) selected")
 
         controls.find("page tab", "General").do("Press")
-        self.assertFalse(controls.find("check box", "Start at Login").is_checked)
+        login = controls.find("check box", "Start at Login")
+        self.assertFalse(login.is_checked)
+        login.do("Toggle")
+        entry = os.path.join(self.desktop.session.config_folder, "autostart",
+                             "com.corvane.Quillet.desktop")
+        wait.until(lambda: os.path.exists(entry), 3.0, "the login item is there")
+        login.do("Toggle")
+        wait.until(lambda: not os.path.exists(entry), 3.0, "the login item is gone")
         for name in ("Corvane Quillet v1.0.2", "A floating formatting bar for text editing"):
             controls.find("label", name)
-        controls.find("push button", "Feedback senden …")
+        controls.find("push button", "Feedback senden …").do("Press")
+        wait.until(lambda: self.windows.client_of(program.pid, "Feedback senden"), 3.0,
+                   "the feedback form is there")
 
 
 if __name__ == "__main__":

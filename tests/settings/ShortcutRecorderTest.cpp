@@ -141,6 +141,24 @@ TEST_F(ShortcutRecorder, GoesOnRecordingAfterTheModeWasSwitchedAwayAndBack) {
     EXPECT_TRUE(shows(QStringLiteral("⌘A")));
 }
 
+TEST_F(ShortcutRecorder, IsReachedAndUsedWithoutAPointer) {
+    click(QStringLiteral("Automatically on text selection"));
+    openTab(QStringLiteral("General"));
+    press({Qt::Key_Left});
+    press({Qt::Key_Left});
+    press({Qt::Key_Tab}); // to the choice of mode
+    press({Qt::Key_Down});
+    EXPECT_TRUE(store_.useKeyboardShortcut);
+    press({Qt::Key_Tab});
+    press({Qt::Key_Space, {}, 57});
+    ASSERT_TRUE(shows(prompt));
+    press({Qt::Key_Space, Qt::ControlModifier, 57});
+    EXPECT_EQ(stored(), std::pair(std::uint16_t{49}, std::uint64_t{0x100000}));
+    press({Qt::Key_Backtab, Qt::ShiftModifier, 15}); // back to the field, once more
+    press({Qt::Key_Space, {}, 57});
+    EXPECT_TRUE(shows(prompt));
+}
+
 TEST_F(ShortcutRecorder, HasTheAccentWhileRecording) {
     using ui::Color;
     const auto shown = [&](Color ground, ui::Tint tint) {
