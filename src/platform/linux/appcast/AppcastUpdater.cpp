@@ -27,10 +27,11 @@ AppcastUpdater::AppcastUpdater(AppcastConfiguration configuration, RunLoop& runL
     , record_(configuration_.recordPath) {}
 
 core::Registration AppcastUpdater::setPresenter(UpdatePresenter& presenter) {
-    presenter_ = &presenter;
-    return core::Registration([this] {
-        presenter_ = nullptr;
-        notification_.reset();
+    *presenter_ = &presenter;
+    return core::Registration([presented = std::weak_ptr(presenter_)] {
+        if (const auto place = presented.lock()) {
+            *place = nullptr;
+        }
     });
 }
 
@@ -112,8 +113,8 @@ void AppcastUpdater::conclude(const FeedAnswer& answer) {
 }
 
 void AppcastUpdater::present(const UpdateAnswer& answer, std::function<void(UpdateChoice)> choose) {
-    if (presenter_ != nullptr) {
-        presenter_->present(answer, std::move(choose));
+    if (*presenter_ != nullptr) {
+        (*presenter_)->present(answer, std::move(choose));
     }
 }
 

@@ -8,6 +8,8 @@
 #include "platform/linux/appcast/FeedTransport.h"
 #include "platform/linux/appcast/UpdateRecord.h"
 
+#include <memory>
+
 namespace platform {
 
 /// Learns of newer versions from an appcast: once a day by itself, telling the user by a
@@ -40,7 +42,8 @@ private:
     Workspace& workspace_;
     UserNotifications& notifications_;
     UpdateRecord record_;
-    UpdatePresenter* presenter_ = nullptr;
+    /// Null without one. A presenter's registration may outlive the updater.
+    std::shared_ptr<UpdatePresenter*> presenter_ = std::make_shared<UpdatePresenter*>(nullptr);
     /// What the look that is going on, if any, is for.
     std::optional<Occasion> occasion_;
     core::Registration download_;
