@@ -144,8 +144,10 @@ TEST_F(FeedbackSheetTest, ThePictureIsTakenWhenTheSwitchIsTurnedOnAndDroppedWhen
     fakes.runLoop.finishBackgroundWork();
     EXPECT_EQ(fakes.screenCapture.taken, std::vector<std::uint32_t>{4294967295});
     EXPECT_FALSE(find("awaited").isVisible());
-    QTest::qWait(1);
-    EXPECT_EQ(find("preview").size(), QSize(80, 160));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return find("preview").size() == QSize(80, 160); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        return find("size").visibleRegion().boundingRect() == find("size").rect();
+    })) << "scrolled into sight";
     EXPECT_EQ(find("size").accessibleName(),
               QStringLiteral("Größe: ") + formatBytes(form->screenshotData.get()->size()));
     EXPECT_EQ(QImage::fromData(*form->screenshotData.get(), "PNG").size(), QSize(400, 800));
