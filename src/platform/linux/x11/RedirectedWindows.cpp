@@ -1,15 +1,39 @@
 #include "platform/linux/x11/RedirectedWindows.h"
 
+#include "platform/linux/x11/WindowsOutOfSight.h"
+
 #include <xcb/composite.h>
 #include <xcb/shape.h>
 
 #include <algorithm>
 #include <cstring>
+#include <set>
+#include <span>
 #include <string_view>
 
 namespace platform {
 
 namespace {
+
+/// What the four bytes of a pixel are.
+struct PixelKind {
+    QImage::Format format;
+    /// Bits that stand for the opacity but may be anything in a window that has none.
+    quint32 unused;
+};
+
+std::optional<PixelKind> pixelKind(int depth) {
+    switch (depth) {
+    case 24:
+        return PixelKind{QImage::Format_ARGB32_Premultiplied, 0xff000000};
+    case 30:
+        return PixelKind{QImage::Format_A2RGB30_Premultiplied, 0xc0000000};
+    case 32:
+        return PixelKind{QImage::Format_ARGB32_Premultiplied, 0};
+    default:
+        return std::nullopt;
+    }
+}
 
 bool isPresent(XcbDisplay& display, std::string_view extension) {
     const auto answer = display.reply<xcb_query_extension_reply_t>(xcb_query_extension(
@@ -52,21 +76,28 @@ bool RedirectedWindows::isVisible(xcb_window_t window) {
            attributes->_class == XCB_WINDOW_CLASS_INPUT_OUTPUT;
 }
 
-xcb_window_t RedirectedWindows::topLevelOf(xcb_window_t window) {
+std::optional<xcb_window_t> RedirectedWindows::topLevelOf(xcb_window_t window) {
     constexpr int deepest = 32;
     for (int depth = 0; depth < deepest && window != XCB_WINDOW_NONE; ++depth) {
         const auto tree =
             display_.reply<xcb_query_tree_reply_t>(xcb_query_tree(display_.get(), window));
-        if (!tree || tree->parent == display_.root()) {
+        if (!tree) {
             break;
+        }
+        if (tree->parent == display_.root()) {
+            return window;
         }
         window = tree->parent;
     }
-    return window;
+    return std::nullopt;
 }
 
 std::vector<xcb_window_t> RedirectedWindows::below(xcb_window_t window) {
-    const xcb_window_t end = topLevelOf(window);
+    const auto own = topLevelOf(window);
+    std::set<xcb_window_t> outOfSight;
+    for (const xcb_window_t client : windowsOutOfSight(display_)) {
+        outOfSight.insert(topLevelOf(client).value_or(client));
+    }
     const auto tree =
         display_.reply<xcb_query_tree_reply_t>(xcb_query_tree(display_.get(), display_.root()));
     std::vector<xcb_window_t> result;
@@ -75,8 +106,14 @@ std::vector<xcb_window_t> RedirectedWindows::below(xcb_window_t window) {
     }
     const auto* first = xcb_query_tree_children(tree.get());
     const auto* last = first + xcb_query_tree_children_length(tree.get());
-    std::copy_if(first, std::find(first, last, end), std::back_inserter(result),
-                 [this](xcb_window_t child) { return isVisible(child); });
+    const auto* end = own ? std::find(first, last, *own) : last;
+    if (window != XCB_WINDOW_NONE && end == last) {
+        // Nobody can tell what is below it.
+        return result;
+    }
+    std::copy_if(first, end, std::back_inserter(result), [&](xcb_window_t child) {
+        return !outOfSight.contains(child) && isVisible(child);
+    });
     return result;
 }
 
@@ -100,8 +137,8 @@ std::optional<QRegion> RedirectedWindows::shapeOf(xcb_window_t window) {
 QImage RedirectedWindows::pixels(xcb_pixmap_t pixmap, const QRect& part, int depth) {
     // In strips, so that no single answer is so large that it takes the server long.
     constexpr int stripHeight = 128;
-    QImage image(part.size(),
-                 depth == 32 ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+    const auto kind = pixelKind(depth);
+    QImage image(part.size(), kind ? kind->format : QImage::Format_Invalid);
     if (image.isNull()) {
         return {};
     }
@@ -118,41 +155,41 @@ QImage RedirectedWindows::pixels(xcb_pixmap_t pixmap, const QRect& part, int dep
         // Both have four bytes a pixel and no padding at the end of a line.
         std::memcpy(image.scanLine(y), xcb_get_image_data(strip.get()), wanted);
     }
-    if (depth != 32) {
-        // The fourth byte means nothing there and may be anything.
-        image = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const std::span pixels(reinterpret_cast<quint32*>(image.bits()),
+                           std::size_t(image.sizeInBytes()) / sizeof(quint32));
+    for (quint32& pixel : pixels) {
+        pixel |= kind->unused;
     }
     return image;
 }
 
-std::optional<RedirectedWindows::Picture> RedirectedWindows::picture(xcb_window_t window,
-                                                                     const QRect& area) {
-    auto* connection = display_.get();
+std::optional<RedirectedWindows::Place> RedirectedWindows::place(xcb_window_t window,
+                                                                 const QRect& area) {
     const auto geometry =
-        display_.reply<xcb_get_geometry_reply_t>(xcb_get_geometry(connection, window));
-    if (!geometry || (geometry->depth != 24 && geometry->depth != 32)) {
+        display_.reply<xcb_get_geometry_reply_t>(xcb_get_geometry(display_.get(), window));
+    if (!geometry || !pixelKind(geometry->depth)) {
         return std::nullopt;
     }
+    const int border = geometry->border_width;
     const QPoint corner(geometry->x, geometry->y);
-    const QSize size(geometry->width + 2 * geometry->border_width,
-                     geometry->height + 2 * geometry->border_width);
+    const QSize size(geometry->width + 2 * border, geometry->height + 2 * border);
     const QRect visible = QRect(corner, size) & area;
     if (visible.isEmpty()) {
         return std::nullopt;
     }
-    const xcb_pixmap_t pixmap = xcb_generate_id(connection);
-    xcb_composite_name_window_pixmap(connection, window, pixmap);
-    const QRect part = visible.translated(-corner);
-    QImage image = pixels(pixmap, part, geometry->depth);
-    xcb_free_pixmap(connection, pixmap);
-    if (image.isNull()) {
-        return std::nullopt;
-    }
     // A shape counts from the corner inside the border, the pixmap from the one outside.
-    const int border = geometry->border_width;
     const auto shape = shapeOf(window);
-    const QRegion kept = shape ? shape->translated(border, border) & part : QRegion(part);
-    return Picture{visible.topLeft(), std::move(image), kept.translated(-part.topLeft())};
+    const QPoint inside = corner + QPoint(border, border);
+    return Place{window, geometry->depth, visible.translated(-corner),
+                 shape ? shape->translated(inside) & visible : QRegion(visible), visible.topLeft()};
+}
+
+QImage RedirectedWindows::picture(const Place& place) {
+    const xcb_pixmap_t pixmap = xcb_generate_id(display_.get());
+    xcb_composite_name_window_pixmap(display_.get(), place.window, pixmap);
+    QImage image = pixels(pixmap, place.part, place.depth);
+    xcb_free_pixmap(display_.get(), pixmap);
+    return image;
 }
 
 } // namespace platform

@@ -4,6 +4,7 @@
 
 #include <QImage>
 #include <QPoint>
+#include <QRect>
 #include <QRegion>
 
 #include <optional>
@@ -22,26 +23,33 @@ public:
     RedirectedWindows& operator=(const RedirectedWindows&) = delete;
 
     /// The visible ones from the lowest to the highest, without `window` (or the frame that holds
-    /// it) and what is above. Empty when the server does not answer.
+    /// it) and what is above; all of them below XCB_WINDOW_NONE. Empty when the window is gone or
+    /// the server does not answer.
     std::vector<xcb_window_t> below(xcb_window_t window);
 
-    struct Picture {
-        /// On the root window.
-        QPoint corner;
-        QImage image;
-        /// The part of the image that the window really has.
+    struct Place {
+        xcb_window_t window = XCB_WINDOW_NONE;
+        int depth = 0;
+        /// The part of the window, frame included, that lies where it was looked for.
+        QRect part;
+        /// What of it the window really has, on the root window.
         QRegion shape;
+        /// The part's corner, on the root window.
+        QPoint corner;
     };
 
-    /// A window with its frame, cut to `area` of the root window; empty when it is gone, has
-    /// nothing there, or its pixels are of a kind that nobody uses any more.
-    std::optional<Picture> picture(xcb_window_t window, const QRect& area);
+    /// Where a window is within `area` of the root window; empty when it is gone, has nothing
+    /// there, or its pixels are of a kind that nobody uses any more.
+    std::optional<Place> place(xcb_window_t window, const QRect& area);
+
+    /// The picture of that part of a window; null when the window is gone.
+    QImage picture(const Place& place);
 
 private:
     explicit RedirectedWindows(XcbDisplay& display);
 
     bool isVisible(xcb_window_t window);
-    xcb_window_t topLevelOf(xcb_window_t window);
+    std::optional<xcb_window_t> topLevelOf(xcb_window_t window);
     QImage pixels(xcb_pixmap_t pixmap, const QRect& part, int depth);
     std::optional<QRegion> shapeOf(xcb_window_t window);
 

@@ -18,21 +18,24 @@ constexpr std::chrono::milliseconds patience{1000};
 /// How long applications have to draw what other windows had covered.
 constexpr std::chrono::milliseconds repainting{100};
 
-QImage putTogether(const std::vector<RedirectedWindows::Picture>& pictures) {
-    QRect covered;
-    for (const auto& picture : pictures) {
-        covered |= picture.shape.boundingRect().translated(picture.corner);
+/// One window's picture after the other, so that no more than one of them is held at once.
+QImage putTogether(RedirectedWindows& windows,
+                   const std::vector<RedirectedWindows::Place>& places) {
+    QRegion covered;
+    for (const auto& place : places) {
+        covered += place.shape;
     }
-    QImage whole(covered.size(), QImage::Format_ARGB32_Premultiplied);
+    const QPoint corner = covered.boundingRect().topLeft();
+    QImage whole(covered.boundingRect().size(), QImage::Format_ARGB32_Premultiplied);
     if (whole.isNull()) {
         return {};
     }
     whole.fill(Qt::transparent);
     QPainter painter(&whole);
-    for (const auto& picture : pictures) {
-        const QPoint corner = picture.corner - covered.topLeft();
-        painter.setClipRegion(picture.shape.translated(corner));
-        painter.drawImage(corner, picture.image);
+    painter.translate(-corner);
+    for (const auto& place : places) {
+        painter.setClipRegion(place.shape);
+        painter.drawImage(place.corner, windows.picture(place));
     }
     return whole;
 }
@@ -63,13 +66,15 @@ QImage XCompositeScreenCapture::pictureBelow(std::uint32_t window) {
         return {};
     }
     const QRect area(0, 0, screen->width, screen->height);
-    std::vector<RedirectedWindows::Picture> pictures;
+    std::vector<RedirectedWindows::Place> places;
     for (const xcb_window_t each : windows->below(window)) {
-        if (auto picture = windows->picture(each, area)) {
-            pictures.push_back(*std::move(picture));
+        if (auto place = windows->place(each, area)) {
+            places.push_back(*std::move(place));
         }
     }
-    return putTogether(pictures);
+    const QImage picture = putTogether(*windows, places);
+    // Part of what is on the screen would tell something wrong.
+    return display->isAnswering() ? picture : QImage();
 }
 
 } // namespace platform

@@ -131,6 +131,7 @@ TEST_F(ScreenCaptureTest, ShowsWhatIsBelowTheFormWholeAndNothingElse) {
     const QImage everything = capture.pictureBelow(0);
     EXPECT_TRUE(hasColor(everything, 0xff123456) && hasColor(everything, 0xff0000ff));
     EXPECT_TRUE(capture.pictureBelow(back.id()).isNull()) << "nothing is below the lowest";
+    EXPECT_TRUE(capture.pictureBelow(0x7fffff).isNull()) << "there is no such window";
 }
 
 TEST_F(ScreenCaptureTest, KeepsToTheScreenToShapesAndToOpacities) {
@@ -147,6 +148,38 @@ TEST_F(ScreenCaptureTest, KeepsToTheScreenToShapesAndToOpacities) {
     EXPECT_NEAR(qRed(mixed), 127, 2);
     EXPECT_NEAR(qBlue(mixed), 128, 2);
     EXPECT_EQ(qAlpha(mixed), 255);
+}
+
+// The test is the manager, one of those that keep everything mapped.
+TEST_F(ScreenCaptureTest, LeavesOutWhatTheUserHasPutAwayWithoutManagerThatUnmapsIt) {
+    const Plain minimised(*applications, {0, 0, 100, 100}, red);
+    const Plain elsewhere(*applications, {100, 0, 100, 100}, red);
+    const Plain everywhere(*applications, {200, 0, 100, 100}, green);
+    const Plain here(*applications, {300, 0, 100, 100}, green);
+    const auto set = [&](xcb_window_t window, const char* property, xcb_atom_t type,
+                         const std::vector<std::uint32_t>& values) {
+        xcb_change_property(applications->get(), XCB_PROP_MODE_REPLACE, window,
+                            applications->atom(property), type, 32,
+                            static_cast<std::uint32_t>(values.size()), values.data());
+    };
+    set(minimised.id(), "_NET_WM_STATE", XCB_ATOM_ATOM,
+        {applications->atom("_NET_WM_STATE_HIDDEN")});
+    set(elsewhere.id(), "_NET_WM_DESKTOP", XCB_ATOM_CARDINAL, {1});
+    set(everywhere.id(), "_NET_WM_DESKTOP", XCB_ATOM_CARDINAL, {0xffffffff});
+    set(here.id(), "_NET_WM_DESKTOP", XCB_ATOM_CARDINAL, {0});
+    const xcb_window_t root = applications->root();
+    set(root, "_NET_CURRENT_DESKTOP", XCB_ATOM_CARDINAL, {0});
+    set(root, "_NET_CLIENT_LIST", XCB_ATOM_WINDOW,
+        {minimised.id(), elsewhere.id(), everywhere.id(), here.id()});
+    settle(*applications);
+
+    const QImage picture = capture.pictureBelow(0);
+    EXPECT_EQ(picture.size(), QSize(200, 100));
+    EXPECT_FALSE(hasColor(picture, 0xffff0000));
+    for (const char* property : {"_NET_CURRENT_DESKTOP", "_NET_CLIENT_LIST"}) {
+        xcb_delete_property(applications->get(), root, applications->atom(property));
+    }
+    settle(*applications);
 }
 
 } // namespace
