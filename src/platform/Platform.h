@@ -32,7 +32,6 @@ struct Platform {
     std::shared_ptr<void> foundation;
 
     std::unique_ptr<ProgramInstance> programInstance;
-    std::unique_ptr<RunLoop> runLoop;
     std::unique_ptr<SystemInfo> systemInfo;
     std::unique_ptr<UserDefaults> userDefaults;
     std::unique_ptr<LoginItem> loginItem;
@@ -52,6 +51,9 @@ struct Platform {
     std::unique_ptr<StatusItem> statusItem;
     std::unique_ptr<Alerts> alerts;
     std::unique_ptr<Updater> updater;
+
+    /// The first to go: it waits for background work, which uses the others.
+    std::unique_ptr<RunLoop> runLoop;
 };
 
 /// What must happen before the application object is made. Answers, as one line of English, why the
