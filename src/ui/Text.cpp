@@ -4,10 +4,19 @@
 
 #include <QAccessible>
 #include <QPainter>
+#include <QTextLayout>
+
+#include <cmath>
 
 namespace ui {
 
 namespace {
+
+/// The text layout breaks lines at separators only.
+QString withLineSeparators(QString text) {
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    return text.replace(u'\n', QChar::LineSeparator);
+}
 
 /// Draws a text: one line in the middle of itself, or as many lines as it needs.
 class Text final : public QWidget {
@@ -46,8 +55,13 @@ public:
 
     QSize sizeHint() const override {
         const QFontMetrics metrics = fontMetrics();
-        // Broken into lines, a text needs a fraction of a point more than it advances.
-        return {metrics.horizontalAdvance(text_) + (wraps_ ? 1 : 0), metrics.height()};
+        if (wraps_) {
+            // Rounded up: where there is less room than it needs, the last word has its own line.
+            QTextLayout lines(withLineSeparators(text_), font());
+            layOut(lines, QWIDGETSIZE_MAX);
+            return {static_cast<int>(std::ceil(lines.maximumWidth())), metrics.height()};
+        }
+        return {metrics.horizontalAdvance(text_), metrics.height()};
     }
 
     QSize minimumSizeHint() const override {
@@ -56,7 +70,8 @@ public:
 
     bool hasHeightForWidth() const override { return wraps_; }
     int heightForWidth(int width) const override {
-        return fontMetrics().boundingRect(0, 0, width, 100000, flags(), text_).height();
+        QTextLayout lines(withLineSeparators(text_), font());
+        return static_cast<int>(std::ceil(layOut(lines, width)));
     }
 
 protected:
@@ -64,19 +79,39 @@ protected:
         QPainter painter(this);
         painter.setOpacity(labelOpacity(*this));
         painter.setPen(color(color_(), palette()));
+        if (wraps_) {
+            QTextLayout lines(withLineSeparators(text_), font());
+            layOut(lines, width());
+            lines.draw(&painter, {0, 0});
+            return;
+        }
         const QFontMetrics metrics = fontMetrics();
         if (truncates_ && metrics.horizontalAdvance(text_) > width()) {
             painter.drawText(rect(), Qt::AlignLeading | Qt::AlignVCenter | Qt::TextSingleLine,
                              metrics.elidedText(text_, Qt::ElideRight, width()));
             return;
         }
-        painter.drawText(rect(), flags() | Qt::TextDontClip, text_);
+        painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip, text_);
     }
 
 private:
-    int flags() const {
-        return wraps_ ? int(Qt::AlignLeading | Qt::AlignTop) | Qt::TextWordWrap
-                      : int(Qt::AlignCenter) | Qt::TextSingleLine;
+    /// Breaks a word only where it is longer than a line. Answers the height of all lines.
+    double layOut(QTextLayout& lines, int width) const {
+        QTextOption option;
+        option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+        option.setTextDirection(layoutDirection());
+        lines.setTextOption(option);
+        const double leading = QFontMetricsF(font()).leading();
+        double height = -leading;
+        lines.beginLayout();
+        for (QTextLine line = lines.createLine(); line.isValid(); line = lines.createLine()) {
+            height += leading;
+            line.setLineWidth(width);
+            line.setPosition({0, height});
+            height += line.height();
+        }
+        lines.endLayout();
+        return height;
     }
 
     QString text_;

@@ -167,4 +167,23 @@ TEST_F(Elements, HoverEndsWhenTheWindowVanishesUnderThePointer) {
     EXPECT_FALSE(isHovered->get());
 }
 
+TEST_F(Elements, TextWrapsOnlyWhereItHasLessRoomThanItNeeds) {
+    const auto lines = [](const QString& words, double size, auto width) {
+        const ui::Element element = ui::text(words, {.pointSize = size, .wraps = true});
+        const QWidget& widget = element.widget();
+        const int height = widget.heightForWidth(width(widget));
+        return qRound(double(height) / widget.fontMetrics().lineSpacing());
+    };
+    const auto own = [](const QWidget& widget) { return widget.sizeHint().width(); };
+    for (double size = 10; size < 20; ++size) {
+        for (const QString& words : {QStringLiteral("Screenshot wird erzeugt …"),
+                                     QStringLiteral("ill ill"), QStringLiteral("WAV To A. T")}) {
+            EXPECT_EQ(lines(words, size, own), 1) << words.toStdString() << " at " << size;
+        }
+    }
+    const auto narrow = [](const QWidget& widget) { return widget.sizeHint().width() / 3; };
+    EXPECT_GE(lines(QString(60, u'x'), 13, narrow), 3) << "a word longer than a line";
+    EXPECT_EQ(lines(QStringLiteral("a\r\nb\nc"), 13, own), 3);
+}
+
 } // namespace
