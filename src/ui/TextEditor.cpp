@@ -34,7 +34,7 @@ public:
         setPlainText(text->get());
         connect(this, &QPlainTextEdit::textChanged, this, [this, text] {
             const QScopedValueRollback own(isOwnEdit_, true);
-            text->set(toPlainText());
+            text->set(content());
         });
         keep(*this, std::pair(text, text->observe([this](const QString& next) {
             if (!isOwnEdit_) {
@@ -46,6 +46,13 @@ public:
     QSize sizeHint() const override { return {200, minimumHeight()}; }
 
 private:
+    /// As it was typed: the toolkit's plain text has an ordinary blank for one that does not break.
+    QString content() const {
+        QString text = document()->toRawText();
+        text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
+        return text;
+    }
+
     bool isOwnEdit_ = false;
 };
 

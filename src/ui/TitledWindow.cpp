@@ -27,7 +27,13 @@ TitledWindow::TitledWindow(const QString& title, QSize contentSize)
 void TitledWindow::setContent(Element content) {
     auto widget = content.take();
     delete std::exchange(content_, widget.get());
+    QWidget& shown = *widget;
     layout()->addWidget(widget.release());
+    if (isActiveWindow()) {
+        // The keyboard was with what is gone.
+        shown.show();
+        focusNextChild();
+    }
 }
 
 bool TitledWindow::event(QEvent* event) {

@@ -70,13 +70,14 @@ protected:
 
 TEST_F(FeedbackSheetTest, SendsWhatWasTypedAndClosesAMomentAfterTheAnswer) {
     open(server.endpoint("https", {.body = R"({"id":"abc123"})"}));
-    QTest::keyClicks(&editor(), QStringLiteral("  Hallo"));
+    QTest::keyClicks(&editor(), QStringLiteral("  Hallo\u00a0!"));
     QTest::keyClick(&editor(), Qt::Key_Return);
+    QTest::keyClick(&editor(), Qt::Key_Return, Qt::ShiftModifier);
     sendAndWait();
     EXPECT_EQ(form->status.get(), u"Danke! Feedback ist drin (ID: abc123)");
     EXPECT_EQ(form->statusOK.get(), true);
     const QJsonObject record = onlyRequest()[QLatin1String("json")].toObject();
-    EXPECT_EQ(record[QLatin1String("text")], QStringLiteral("  Hallo\n"));
+    EXPECT_EQ(record[QLatin1String("text")], QStringLiteral("  Hallo\u00a0!\n\n"));
     EXPECT_EQ(record[QLatin1String("user_name")], QStringLiteral("anna"));
     EXPECT_EQ(record[QLatin1String("app_module")], QStringLiteral("Fenster"));
     EXPECT_EQ(record[QLatin1String("os_version")], QStringLiteral("macOS 14.5.0"));
@@ -196,6 +197,7 @@ TEST_F(FeedbackSheetTest, NothingOfAFormOutlivesItsReplacement) {
     const std::weak_ptr<FeedbackForm> first = form;
     open(server.endpoint("https"));
     EXPECT_TRUE(first.expired());
+    EXPECT_TRUE(editor().hasFocus()) << "the keyboard is not left with what is gone";
     fakes.runLoop.finishBackgroundWork();
     EXPECT_EQ(form->screenshotData.get(), std::nullopt);
     EXPECT_TRUE(editor().toPlainText().isEmpty());
