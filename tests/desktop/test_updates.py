@@ -158,7 +158,7 @@ class WithFeedTest(UpdateCase):
         self.ask(program)
         self.wait_for_answer(
             program, "Looking for a newer version failed",
-            "The update feed could not be read: line 1: document types are not accepted")
+            "The update feed could not be read: document types are not accepted")
         self.feed.close()
         self.ask(program)
         self.wait_for_answer(program, "The update feed could not be read: Connection refused")

@@ -1,6 +1,9 @@
 #include "platform/linux/appcast/AppcastReader.h"
 
 #include "platform/linux/appcast/BoundedXml.h"
+#include "platform/linux/appcast/XmlSurvey.h"
+
+#include <QStringDecoder>
 
 #include <algorithm>
 
@@ -190,7 +193,15 @@ private:
 
 std::variant<std::vector<AppcastItem>, AppcastError> readAppcast(const QByteArray& feed,
                                                                  const AppcastAudience& audience) {
-    BoundedXml xml(feed);
+    QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
+    const QString document = decoder.decode(feed);
+    if (decoder.hasError()) {
+        return AppcastError{QStringLiteral("it is not UTF-8")};
+    }
+    if (const auto objection = objectionTo(document)) {
+        return AppcastError{*objection};
+    }
+    BoundedXml xml(document);
     std::vector<AppcastItem> items;
     bool hasChannel = false;
     const bool isFeed = xml.nextChild() && xml.is(rss, QLatin1String("rss"));

@@ -6,11 +6,11 @@
 
 namespace platform {
 
-/// Walks through an XML document from outside: without document type, so that no entity of its own
-/// can be expanded, and with limits for its depth and the number of its elements.
+/// Walks through an XML document from outside, with limits for its depth and the number of its
+/// elements.
 class BoundedXml {
 public:
-    explicit BoundedXml(const QByteArray& document)
+    explicit BoundedXml(const QString& document)
         : reader_(document) {}
 
     /// Goes on to the next child of the current element; false at its end, or after an error.

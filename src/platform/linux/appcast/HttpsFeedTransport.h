@@ -12,7 +12,7 @@ class HttpsFeedTransport final : public FeedTransport {
 public:
     struct Limits {
         Seconds time{30};
-        qsizetype bytes = 4 * 1024 * 1024;
+        qsizetype bytes = 2 * 1024 * 1024;
     };
 
     explicit HttpsFeedTransport(RunLoop& runLoop)

@@ -108,6 +108,10 @@ TEST(AppcastReader, has_no_page_but_what_a_browser_shows) {
 }
 
 TEST(AppcastReader, says_why_a_feed_cannot_be_read) {
+    QByteArray attributes;
+    for (int i = 0; i < 200'000; ++i) {
+        attributes += " a" + QByteArray::number(i) + "=''";
+    }
     const struct {
         QByteArray feed;
         const char* reason;
@@ -117,15 +121,16 @@ TEST(AppcastReader, says_why_a_feed_cannot_be_read) {
         {"<rss/>", "it is not an appcast"},
         {R"({"json": true})", "line 1: Start tag expected."},
         {feedOf("<item>"), "line 3: Opening and ending tag mismatch."},
-        {feedOf("<item><title>\xff\xfe</title></item>"),
-         "line 1: Encountered incorrectly encoded content."},
+        {feedOf("<item><title>\xff\xfe</title></item>"), "it is not UTF-8"},
         {feedOf("<item><s:version>1&what;</s:version></item>"),
          "line 3: Entity 'what' not declared."},
         {R"(<!DOCTYPE rss [<!ENTITY a "aaaaaaaaaa"><!ENTITY b "&a;&a;&a;&a;&a;&a;&a;&a;">]>
             <rss><channel><item><title>&b;</title></item></channel></rss>)",
-         "line 1: document types are not accepted"},
+         "document types are not accepted"},
         {R"(<!DOCTYPE rss SYSTEM "file:///etc/passwd"><rss><channel/></rss>)",
-         "line 1: document types are not accepted"},
+         "document types are not accepted"},
+        {feedOf("<a b='>'" + attributes + "/>"), "too many attributes"},
+        {feedOf("<!-- ' --><a" + attributes + "/>"), "too many attributes"},
         {feedOf(QByteArray("<a>").repeated(1'000'000)), "line 3: too many elements"},
         {feedOf(QByteArray("<a/>").repeated(1'000'000)), "line 3: too many elements"},
     };
