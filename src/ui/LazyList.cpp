@@ -50,7 +50,8 @@ bool LazyList::event(QEvent* event) {
         painter.fillRect(rect(), color({Color::TextBackground}, palette()));
         if (hasFocus() && current_ < rows_.count) {
             const int top = viewport()->y() + current_ * rowHeight_ - verticalScrollBar()->value();
-            painter.fillRect(0, top, width(), rowHeight_, color({Color::Accent, 0.2}, palette()));
+            painter.fillRect(0, top, viewport()->width(), rowHeight_,
+                             color({Color::Accent, 0.2}, palette()));
         }
         const QColor line = color({hasFocus() ? Color::Accent : Color::ControlBorder}, palette());
         painter.fillRect(0, 0, width(), 1, line);
