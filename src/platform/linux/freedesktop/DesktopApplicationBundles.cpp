@@ -47,7 +47,10 @@ QString DesktopApplicationBundles::suffix() {
 
 std::optional<ApplicationBundle> DesktopApplicationBundles::bundle(const QString& path) {
     const QString fileName = path.section(u'/', -1);
-    const QString folder = path.chopped(fileName.size() + 1);
+    const QString folder = path.section(u'/', 0, -2);
+    if (!fileName.endsWith(suffix())) {
+        return std::nullopt;
+    }
     auto entry = DesktopEntry::read(path, fileName.chopped(suffix().size()), languages_);
     if (!entry || !isListed(*entry) || isHiddenByBetterFolder(folder, fileName)) {
         return std::nullopt;

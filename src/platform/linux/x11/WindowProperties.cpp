@@ -33,7 +33,7 @@ WindowProperties::read(xcb_window_t window, const char* property, xcb_atom_t typ
 std::vector<std::uint32_t> WindowProperties::numbers(xcb_window_t window, const char* property,
                                                      xcb_atom_t type) const {
     const auto value = read(window, property, type);
-    if (!value || value->format != 32) {
+    if (!value || value->format != 32 || value->bytes.isEmpty()) {
         return {};
     }
     std::vector<std::uint32_t> result(static_cast<std::size_t>(value->bytes.size()) / 4);
