@@ -33,7 +33,7 @@ void FormattingBarController::show(const platform::Rect& near) {
         return;
     }
     barWindow_->setFrame({origin.x, origin.y, BarMetrics::placementWidth, BarMetrics::height});
-    barWindow_->orderFront();
+    orderFront();
 }
 
 void FormattingBarController::hide() {
@@ -73,7 +73,16 @@ void FormattingBarController::createBarWindow(platform::Point origin) {
         ui::RoundedRectangle{BarMetrics::cornerRadius});
     barWindow_->setObjectName(QStringLiteral("bar"));
     barWindow_->setFrame({origin.x, origin.y, BarMetrics::creationWidth, BarMetrics::height});
+    orderFront();
+}
+
+void FormattingBarController::orderFront() {
     barWindow_->orderFront();
+    const auto* view = hostingView_->findChild<QWidget*>(QStringLiteral("FormattingBarView"));
+    const VisualEffectBackground& effect = FormattingBarView::background;
+    platform_.windowServer->setMaterial(*view, {static_cast<int>(effect.material),
+                                                static_cast<int>(effect.blendingMode),
+                                                BarMetrics::cornerRadius});
 }
 
 std::function<void()> FormattingBarController::noteColorPanelPosition() const {

@@ -39,6 +39,7 @@ public:
 
 private:
     void createBarWindow(platform::Point origin);
+    void orderFront();
     /// Leaves word where the colour panel goes, beside the bar; answers whom to tell.
     std::function<void()> noteColorPanelPosition() const;
 

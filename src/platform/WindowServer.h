@@ -17,6 +17,14 @@ enum class KeyboardFocus {
     WhenInFront,
 };
 
+/// A material that shows, blurred, what lies behind a window, and looks the same whether or not the
+/// program is in front. The first two are the numbers of the system that has materials.
+struct WindowMaterial {
+    int material = 0;
+    int blendingMode = 0;
+    double cornerRadius = 0;
+};
+
 /// What the window system does with the program's own windows. Main thread only.
 class WindowServer {
 public:
@@ -44,6 +52,13 @@ public:
 
     /// Whether what a window leaves transparent shows what lies below it.
     virtual bool hasTranslucency() = 0;
+
+    /// Whether setMaterial() does anything. Where it does not, a window paints a fill instead.
+    virtual bool hasMaterials() = 0;
+
+    /// Lays a material behind what a floating window draws, where `part` of it is now. A window has
+    /// one material; its place is told anew when the part has moved.
+    virtual void setMaterial(const QWidget& part, const WindowMaterial& material) = 0;
 
     /// Turns the process into a menu-bar accessory: no icon among the running applications.
     virtual void becomeAccessory() = 0;

@@ -116,4 +116,16 @@ TEST_F(FormattingBarController, CanBeEndedByItsOwnCallbacks) {
     EXPECT_FALSE(hasWindow("bar"));
 }
 
+TEST_F(FormattingBarController, LeavesTheBackgroundToASystemThatHasMaterials) {
+    fake_.windowServer.materials = true;
+    show();
+    EXPECT_EQ(fake_.windowServer.materialPlace, QRect(-25, 3, 640, 38));
+    show(); // now at full width
+    EXPECT_EQ(fake_.windowServer.materialPlace, QRect(10, 3, 640, 38));
+    EXPECT_EQ(fake_.windowServer.material.material, 13);
+    EXPECT_EQ(fake_.windowServer.material.blendingMode, 0);
+    EXPECT_EQ(fake_.windowServer.material.cornerRadius, 10);
+    EXPECT_EQ(pixel(window(), {325, 5}).alpha(), 0);
+}
+
 } // namespace

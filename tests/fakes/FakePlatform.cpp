@@ -165,6 +165,11 @@ platform::Rect FakeWindowServer::frameOnScreen(const QWidget& part) {
             static_cast<double>(part.width()), static_cast<double>(part.height())};
 }
 
+void FakeWindowServer::setMaterial(const QWidget& part, const platform::WindowMaterial& wanted) {
+    material = wanted;
+    materialPlace = QRect(part.mapTo(part.window(), QPoint(0, 0)), part.size());
+}
+
 void FakeWindowServer::orderFront(QWidget& window) {
     record.emplace_back("order front");
     window.show();

@@ -206,6 +206,9 @@ struct FakeWindowServer final : platform::WindowServer {
     Record& record;
     std::map<const QWidget*, platform::Rect> frames;
     bool translucency = true;
+    bool materials = false;
+    platform::WindowMaterial material;
+    QRect materialPlace;
     /// One for each call of bringToFront().
     std::vector<platform::ActivationToken> tokens;
 
@@ -217,6 +220,8 @@ struct FakeWindowServer final : platform::WindowServer {
     void orderOut(QWidget& window) override;
     void bringToFront(QWidget& window, const platform::ActivationToken& token) override;
     bool hasTranslucency() override { return translucency; }
+    bool hasMaterials() override { return materials; }
+    void setMaterial(const QWidget& part, const platform::WindowMaterial& wanted) override;
     void becomeAccessory() override { record.emplace_back("become accessory"); }
 };
 

@@ -28,7 +28,7 @@ WARNINGS = ["-Werror", "-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Wconversi
 DEFINITIONS = ["-DQT_NO_CAST_FROM_ASCII", "-DQT_NO_CAST_TO_ASCII", "-DQT_NO_KEYWORDS",
                '-DQUILLET_VERSION="0"', '-DQUILLET_BUILD_NUMBER="0"']
 # C++ and its runtime, which every program brings along.
-OWN_RUNTIME = re.compile(r"__Z|___cxa_|___dynamic_cast$|___gxx|__Unwind|___libc_single_threaded|___stack_chk|_pthread_|"
+OWN_RUNTIME = re.compile(r"__Z|___cxa_|___dynamic_cast$|___gxx|__Unwind|___libc_single_threaded|___stack_chk|_pthread_|___once_proxy$|"
                          r"_(mem\w+|strlen|strcmp|abort|free|malloc)$|___assert_fail$|___errno_location$")
 
 

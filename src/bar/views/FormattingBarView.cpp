@@ -3,7 +3,6 @@
 #include "bar/views/ColorPickerButton.h"
 #include "bar/views/HeadingButton.h"
 #include "bar/views/IconButton.h"
-#include "bar/views/VisualEffectBackground.h"
 #include "ui/Modifiers.h"
 #include "ui/Stack.h"
 
@@ -35,9 +34,7 @@ ui::Element FormattingBarView::body() const {
                       icon(decreaseTextSize), icon(increaseTextSize),                          //
                       divider(),                                                               //
                       icon(removeFormatting)) |
-           ui::padding({.horizontal = 10, .vertical = 6}) |
-           ui::background(shape, VisualEffectBackground{VisualEffectMaterial::HudWindow,
-                                                        VisualEffectBlendingMode::BehindWindow}) |
+           ui::padding({.horizontal = 10, .vertical = 6}) | ui::background(shape, background) |
            ui::border(shape, {ui::Color::Separator}, 0.5) |
            ui::identifier(QStringLiteral("FormattingBarView"));
 }

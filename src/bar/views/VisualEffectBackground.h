@@ -17,7 +17,7 @@ struct VisualEffectBackground {
     VisualEffectMaterial material = VisualEffectMaterial::HudWindow;
     VisualEffectBlendingMode blendingMode = VisualEffectBlendingMode::BehindWindow;
 
-    /// The fill that stands for the effect in that palette.
+    /// The fill that stands for the effect in that palette; none where the system draws the effect.
     QColor operator()(const QPalette& palette) const;
 };
 

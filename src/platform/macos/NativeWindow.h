@@ -1,6 +1,10 @@
 #pragma once
 
+#include "platform/WindowServer.h"
+
 #include <qwindowdefs.h>
+
+#include <cstdint>
 
 namespace platform::nativeWindow {
 
@@ -15,9 +19,12 @@ void orderFront(WId view);
 /// Shows an ordinary window in front of all applications' and makes it the key window.
 void bringToFront(WId view);
 
-/// Puts a blurred picture of what lies behind the window behind everything that the view draws, and
-/// cuts both to round corners. `material` and `blendingMode` are the system's numbers.
-void setMaterial(WId view, int material, int blendingMode, double cornerRadius);
+/// Puts a blurred picture of what lies behind the window behind what the view draws. `frame` is in
+/// the view, from its bottom-left corner; a window has one such picture.
+void setMaterial(WId view, const Rect& frame, const WindowMaterial& material);
+
+/// The number of the program's window that has the keyboard; 0 when none has it.
+std::int64_t keyWindowNumber();
 
 /// No icon among the running applications.
 void becomeAccessory();

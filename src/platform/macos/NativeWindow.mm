@@ -23,15 +23,8 @@ Strong<NSVisualEffectView*> effectBehind(NSView* content) {
     }
     auto effect = Strong<NSVisualEffectView*>::adopt(
         [[NSVisualEffectView alloc] initWithFrame:content.frame]);
-    effect.get().autoresizingMask = NSViewWidthSizable | NSViewHeightSizable;
     [frame addSubview:effect.get() positioned:NSWindowBelow relativeTo:content];
     return effect;
-}
-
-void roundCorners(NSView* view, double radius) {
-    view.wantsLayer = YES;
-    view.layer.cornerRadius = radius;
-    view.layer.masksToBounds = YES;
 }
 
 } // namespace
@@ -60,14 +53,20 @@ void bringToFront(WId view) {
     [[NSApplication sharedApplication] activateIgnoringOtherApps:YES];
 }
 
-void setMaterial(WId view, int material, int blendingMode, double cornerRadius) {
-    NSView* content = viewOf(view);
-    const auto effect = effectBehind(content);
-    effect.get().material = static_cast<NSVisualEffectMaterial>(material);
-    effect.get().blendingMode = static_cast<NSVisualEffectBlendingMode>(blendingMode);
+void setMaterial(WId view, const Rect& frame, const WindowMaterial& material) {
+    const auto effect = effectBehind(viewOf(view));
+    effect.get().frame = NSMakeRect(frame.x, frame.y, frame.width, frame.height);
+    effect.get().material = static_cast<NSVisualEffectMaterial>(material.material);
+    effect.get().blendingMode = static_cast<NSVisualEffectBlendingMode>(material.blendingMode);
     effect.get().state = NSVisualEffectStateActive;
-    roundCorners(effect.get(), cornerRadius);
-    roundCorners(content, cornerRadius);
+    effect.get().wantsLayer = YES;
+    effect.get().layer.cornerRadius = material.cornerRadius;
+    effect.get().layer.masksToBounds = YES;
+}
+
+std::int64_t keyWindowNumber() {
+    NSWindow* window = [NSApplication sharedApplication].keyWindow;
+    return window == nil ? 0 : window.windowNumber;
 }
 
 void becomeAccessory() {

@@ -4,6 +4,7 @@
 #include "platform/macos/Strong.hh"
 
 #include <AppKit/AppKit.h>
+#include <ScreenCaptureKit/ScreenCaptureKit.h>
 
 void rightAndWrong(NSWindow* window, void* pointer);
 
@@ -31,5 +32,7 @@ void rightAndWrong(NSWindow* window, void* pointer) {
     [NSURL URLWithString:QString()];
 #elif MISTAKE == 10 // one string for an array of strings => cannot initialize
     NSArray<NSString*>* names = NSHomeDirectory();
+#elif MISTAKE == 11 // a class that only newer systems have, on all => only available on macOS 14
+    [[SCScreenshotManager class] description];
 #endif
 }

@@ -21,6 +21,8 @@ public:
     void orderOut(QWidget& window) override;
     void bringToFront(QWidget& window, const ActivationToken& token) override;
     bool hasTranslucency() override;
+    bool hasMaterials() override { return false; }
+    void setMaterial(const QWidget&, const WindowMaterial&) override {}
     void becomeAccessory() override;
 
 private:

@@ -119,14 +119,6 @@ enum NSWindowOrderingMode : NSInteger {
     NSWindowOut = 0,
 };
 
-// appkit/nsview/autoresizingmask-swift.struct
-using NSAutoresizingMaskOptions = NSUInteger;
-enum : NSAutoresizingMaskOptions {
-    NSViewNotSizable = 0,
-    NSViewWidthSizable = 2,
-    NSViewHeightSizable = 16,
-};
-
 // appkit/nsview
 @interface NSView : NSResponder
 - (instancetype)initWithFrame:(NSRect)frameRect;
@@ -136,11 +128,9 @@ enum : NSAutoresizingMaskOptions {
 @property(copy) NSArray<__kindof NSView*>* subviews;
 @property BOOL wantsLayer;
 @property(nullable, strong) CALayer* layer;
-@property NSAutoresizingMaskOptions autoresizingMask;
 - (void)addSubview:(NSView*)view
         positioned:(NSWindowOrderingMode)place
         relativeTo:(nullable NSView*)otherView;
-- (void)removeFromSuperview;
 @end
 
 // appkit/nsvisualeffectview, and its Material, BlendingMode and State

@@ -50,7 +50,6 @@ struct Effect {
     double cornerRadius = 0;
     bool masksToBounds = false;
     platform::Rect frame;
-    unsigned long autoresizingMask = 0;
 
     bool operator==(const Effect&) const = default;
 };
@@ -67,6 +66,7 @@ struct AppKit {
     std::optional<std::size_t> mainScreen;
     platform::Point mouseLocation;
 
+    std::optional<long> keyWindowNumber;
     bool refusesMonitors = false;
     std::optional<long> activationPolicy;
     /// Whether each request to come forward insisted.
@@ -95,9 +95,8 @@ int pressHere();
 WId openWindow(const platform::Rect& frame);
 void closeWindow(WId view);
 const Window& windowOf(WId view);
-/// Whose views lie behind everything in the window, and how the content's own corners are cut.
+/// The blurring views of the window.
 std::vector<Effect> effectsOf(WId view);
-std::pair<double, bool> contentCorners(WId view);
 
 /// The fakes' objects that are still alive, those of openWindow() included.
 int liveObjects();

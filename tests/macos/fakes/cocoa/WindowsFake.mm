@@ -16,7 +16,6 @@ struct View {
     NSView* superview = nil;
     NSMutableArray* subviews = nil;
     CALayer* layer = nil;
-    NSAutoresizingMaskOptions autoresizingMask = 0;
 };
 
 NSView* viewOf(WId view) {
@@ -73,6 +72,9 @@ NSView* viewOf(WId view) {
 - (NSRect)frame {
     return stateOf<View>(self).frame;
 }
+- (void)setFrame:(NSRect)frame {
+    stateOf<View>(self).frame = frame;
+}
 - (NSWindow*)window {
     return stateOf<View>(self).window;
 }
@@ -90,12 +92,6 @@ NSView* viewOf(WId view) {
 }
 - (CALayer*)layer {
     return stateOf<View>(self).layer;
-}
-- (void)setAutoresizingMask:(NSAutoresizingMaskOptions)mask {
-    stateOf<View>(self).autoresizingMask = mask;
-}
-- (NSAutoresizingMaskOptions)autoresizingMask {
-    return stateOf<View>(self).autoresizingMask;
 }
 - (void)addSubview:(NSView*)view positioned:(NSWindowOrderingMode)place relativeTo:(NSView*)other {
     NSMutableArray* const all = stateOf<View>(self).subviews;
@@ -150,6 +146,9 @@ NSView* viewOf(WId view) {
 }
 - (void)setBackgroundColor:(NSColor*)color {
     stateOf<Window>(self).clear = color == [NSColor clearColor];
+}
+- (NSInteger)windowNumber {
+    return appKit().keyWindowNumber.value();
 }
 - (void)invalidateShadow {
     stateOf<Window>(self).shadowsComputed += 1;
@@ -207,6 +206,10 @@ NSView* viewOf(WId view) {
 + (NSApplication*)sharedApplication {
     static NSApplication* const shared = [[NSApplication alloc] init];
     return shared;
+}
+- (NSWindow*)keyWindow {
+    static NSWindow* const key = [[NSWindow alloc] init];
+    return appKit().keyWindowNumber ? key : nil;
 }
 - (BOOL)setActivationPolicy:(NSApplicationActivationPolicy)policy {
     appKit().activationPolicy = policy;
@@ -281,15 +284,10 @@ std::vector<Effect> effectsOf(WId view) {
             effect.cornerRadius = sibling.layer.cornerRadius;
             effect.masksToBounds = sibling.layer.masksToBounds;
             effect.frame = platform::toRect(sibling.frame);
-            effect.autoresizingMask = sibling.autoresizingMask;
             result.push_back(effect);
         }
     }
     return result;
-}
-
-std::pair<double, bool> contentCorners(WId view) {
-    return {viewOf(view).layer.cornerRadius, viewOf(view).layer.masksToBounds};
 }
 
 } // namespace cocoaFake
