@@ -118,8 +118,4 @@ core::Registration MessagePortProgramInstance::setRequestHandler(Handler handler
     return requests_.setRequestHandler(std::move(handler));
 }
 
-std::unique_ptr<ProgramInstance> makeProgramInstance() {
-    return std::make_unique<MessagePortProgramInstance>();
-}
-
 } // namespace platform

@@ -178,14 +178,3 @@ Screenshots& screenshots() {
 }
 
 } // namespace cocoaFake
-
-namespace platform {
-
-QImage toQImage(CGImageRef image);
-
-/// The fake's pictures are the toolkit's own.
-QImage toQImage(CGImageRef image) {
-    return image == nullptr ? QImage() : *reinterpret_cast<const QImage*>(image);
-}
-
-} // namespace platform
