@@ -16,8 +16,10 @@ set(CPACK_DEBIAN_PACKAGE_RELEASE ${QUILLET_BUILD_NUMBER})
 set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS TRUE)
 # Without the first two there are no selections; the program says so and runs on. The third is what
-# feedback and the look for updates trust a server by.
+# feedback and the look for updates trust a server by, the last has the words for what goes wrong there
+# in the user's language.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
-    "at-spi2-core, default-dbus-session-bus | dbus-session-bus, ca-certificates")
+    "at-spi2-core, default-dbus-session-bus | dbus-session-bus, ca-certificates, \
+qt6-translations-l10n")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION TRUE)
 include(CPack)

@@ -6,6 +6,8 @@
 #include "settings/AppSettingsManager.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
 
 #include <cstdlib>
 #include <utility>
@@ -35,6 +37,14 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion(core::programVersion());
     QApplication::setDesktopFileName(core::programIdentifier());
     const QApplication application(argc, argv);
+    // Why something could not be sent, and the editors' menus, are the toolkit's own words. They
+    // must not turn our windows around.
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+    QTranslator toolkitTexts;
+    if (toolkitTexts.load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
+                          QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QApplication::installTranslator(&toolkitTexts);
+    }
 
     const std::unique_ptr<platform::Platform> system = platform::makePlatform(std::move(instance));
     const platform::CurrentPlatform current(*system);
