@@ -7,6 +7,7 @@
 #include "macos/fakes/cocoa/ServicesFake.h"
 #include "monitor/NotesAutomation.h"
 #include "platform/Platform.h"
+#include "platform/macos/ApplicationMenu.h"
 #include "platform/macos/AxAccessibility.h"
 #include "platform/macos/NativeWindow.h"
 #include "settings/AppSettingsManager.h"
@@ -188,6 +189,19 @@ TEST_F(MacPlatformTest, AnApplicationThatHangsChangesNothingAndAPasswordFieldHid
     world.elements[note]["AXSelectedText"] = appleFake::string(u"secret");
     runLoop->advance(1);
     EXPECT_EQ(visible(QStringLiteral("bold")), nullptr);
+}
+
+TEST_F(MacPlatformTest, TheSettingsEntryOfTheApplicationsMenuOpensTheSettings) {
+    delegate->applicationDidFinishLaunching();
+    std::static_pointer_cast<platform::ApplicationMenu>(system->foundation)->settings().trigger();
+    QCoreApplication::processEvents();
+    std::vector<QString> titles;
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible()) {
+            titles.push_back(window->windowTitle());
+        }
+    }
+    EXPECT_EQ(titles, std::vector{QStringLiteral("Corvane Quillet Settings")});
 }
 
 } // namespace

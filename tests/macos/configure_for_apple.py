@@ -27,7 +27,9 @@ def main():
         tools.mkdir()
         brew = tools / "brew"
         brew.write_text('#!/bin/sh\n[ "$*" = "--prefix icu4c" ] && echo /kept/apart/icu4c\n', encoding="utf-8")
-        brew.chmod(0o755)
+        (tools / "macdeployqt").write_text("#!/bin/sh\n", encoding="utf-8")
+        for tool in tools.iterdir():
+            tool.chmod(0o755)
         variables = {
             "CMAKE_BUILD_TYPE": "Release", "QUILLET_TESTS": "ON",
             "CMAKE_SYSTEM_NAME": "Darwin", "CMAKE_SYSTEM_PROCESSOR": "x86_64", "CMAKE_OSX_SYSROOT": "",
@@ -55,6 +57,10 @@ def main():
              for source in layer.rglob("*") if source.suffix in {".cpp", ".mm"} and str(source) not in plan]
     wrong += [f"built on a Mac: {folder}" for folder in ("src/platform/linux/", "tests/desktop/", "tests/macos/")
               if f"{root}/{folder}" in plan]
+    wrong += [f"the plan has no {step}" for step in
+              ("Corvane Quillet.app/Contents/Resources/corvane-quillet.icns", "iconutil --convert icns",
+               "codesign --force --sign - --identifier com.corvane.Quillet --entitlements")
+              if step not in plan.replace("$ ", " ")]
     if "-fobjc-arc" not in plan:
         wrong.append("Objective-C++ is built without reference counting")
     print("\n".join(wrong) if wrong else "configured as on a Mac")

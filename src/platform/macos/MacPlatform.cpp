@@ -4,6 +4,7 @@
 #include "platform/macos/AppKitColorPanel.h"
 #include "platform/macos/AppKitScreens.h"
 #include "platform/macos/AppKitWorkspace.h"
+#include "platform/macos/ApplicationMenu.h"
 #include "platform/macos/AxAccessibility.h"
 #include "platform/macos/BundleSystemInfo.h"
 #include "platform/macos/BundledUpdater.h"
@@ -53,7 +54,12 @@ std::unique_ptr<ProgramInstance> makeProgramInstance() {
 
 std::unique_ptr<Platform> makePlatform(std::unique_ptr<ProgramInstance> programInstance) {
     auto platform = std::make_unique<Platform>();
+    // It comes from makeProgramInstance().
+    auto& instance = static_cast<MessagePortProgramInstance&>(*programInstance);
     platform->programInstance = std::move(programInstance);
+    platform->foundation = std::make_shared<ApplicationMenu>([&instance] {
+        instance.accept({InstanceRequest::Kind::Settings, {}});
+    });
     platform->runLoop = std::make_unique<QtRunLoop>();
     platform->systemInfo = std::make_unique<BundleSystemInfo>();
     platform->userDefaults = std::make_unique<NSUserDefaultsStore>();

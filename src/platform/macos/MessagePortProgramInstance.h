@@ -4,6 +4,8 @@
 #include "platform/macos/CfReference.h"
 #include "platform/qt/InstanceRequestQueue.h"
 
+#include <utility>
+
 namespace platform {
 
 /// Whoever has the message port of the program's name is the program; what a further start asks
@@ -14,6 +16,9 @@ public:
 
     Claim claim(InstanceRequest::Kind asked) override;
     [[nodiscard]] core::Registration setRequestHandler(Handler handler) override;
+
+    /// Takes a request that the program itself makes like one of a further start.
+    void accept(InstanceRequest request) { requests_.accept(std::move(request)); }
 
 private:
     bool takePort();
