@@ -4,6 +4,7 @@
 #include "ui/AccessibleRole.h"
 #include "ui/Theme.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QIcon>
 #include <QPainter>
@@ -54,6 +55,10 @@ void TitledWindow::showEvent(QShowEvent* event) {
         move(available.center() - QPoint(width() / 2, height() / 2));
     }
     QWidget::showEvent(event);
+    if (QGuiApplication::focusWindow() == windowHandle() && !isActiveWindow()) {
+        // Opened again before the window system took the keyboard away: it will not give it again.
+        QApplication::setActiveWindow(this);
+    }
 }
 
 } // namespace ui

@@ -86,6 +86,8 @@ class EnduranceTest(DesktopCase):
                 editor.text.extents(*words), SCREEN, first=turn == 0))
             editor.process.kill()
             self.desktop.session.end(editor.process)
+            # The next one has the same words in the same place.
+            program.wait_until_hidden()
         self.desktop.focus(self.note)
         words = self.desktop.select(self.text, "five")
         program.wait_for_bar_at(bar.expected_frame(
