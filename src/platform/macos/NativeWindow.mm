@@ -3,6 +3,7 @@
 #include "platform/macos/Strong.hh"
 
 #include <AppKit/AppKit.h>
+#include <QuartzCore/CALayer.h>
 
 namespace platform::nativeWindow {
 

@@ -13,9 +13,9 @@
 
 QUILLET_ASSUME_NONNULL_BEGIN
 
-@class NSColor, NSImage, NSResponder, NSView, NSWindow;
+@class CALayer, NSColor, NSImage, NSResponder, NSView, NSWindow;
 
-// appkit/nsapplication/activationpolicy
+// appkit/nsapplication/activationpolicy-swift.enum
 enum NSApplicationActivationPolicy : NSInteger {
     NSApplicationActivationPolicyRegular,
     NSApplicationActivationPolicyAccessory,
@@ -24,10 +24,6 @@ enum NSApplicationActivationPolicy : NSInteger {
 
 // appkit/nsapplication/activationoptions
 using NSApplicationActivationOptions = NSUInteger;
-enum : NSApplicationActivationOptions {
-    NSApplicationActivateAllWindows = 1 << 0,
-    NSApplicationActivateIgnoringOtherApps = 1 << 1,
-};
 
 // appkit/nsrunningapplication
 @interface NSRunningApplication : NSObject
@@ -106,12 +102,6 @@ enum : NSEventModifierFlags {
 @property(class, readonly, strong) NSColor* clearColor;
 @end
 
-// quartzcore/calayer/cornerradius, maskstobounds
-@interface CALayer : NSObject
-@property CGFloat cornerRadius;
-@property BOOL masksToBounds;
-@end
-
 // appkit/nswindow/orderingmode
 enum NSWindowOrderingMode : NSInteger {
     NSWindowAbove = 1,
@@ -123,8 +113,8 @@ enum NSWindowOrderingMode : NSInteger {
 @interface NSView : NSResponder
 - (instancetype)initWithFrame:(NSRect)frameRect;
 @property NSRect frame;
-@property(nullable, readonly, weak) NSWindow* window;
-@property(nullable, readonly, weak) NSView* superview;
+@property(nullable, readonly, unsafe_unretained) NSWindow* window;
+@property(nullable, readonly, unsafe_unretained) NSView* superview;
 @property(copy) NSArray<__kindof NSView*>* subviews;
 @property BOOL wantsLayer;
 @property(nullable, strong) CALayer* layer;
@@ -133,7 +123,7 @@ enum NSWindowOrderingMode : NSInteger {
         relativeTo:(nullable NSView*)otherView;
 @end
 
-// appkit/nsvisualeffectview, and its Material, BlendingMode and State
+// appkit/nsvisualeffectview, material-swift.enum, blendingmode-swift.enum, state-swift.enum
 enum NSVisualEffectMaterial : NSInteger {
     NSVisualEffectMaterialHUDWindow = 13,
 };
@@ -200,7 +190,7 @@ enum NSColorPanelMode : NSInteger {
 @property NSColorPanelMode mode;
 @end
 
-// appkit/nsalert, style-swift.enum, nsmodalresponse
+// appkit/nsalert, nsalert/style, nsapplication/modalresponse
 using NSModalResponse = NSInteger;
 static const NSModalResponse NSAlertFirstButtonReturn = 1000;
 enum NSAlertStyle : NSUInteger {
@@ -217,13 +207,13 @@ enum NSAlertStyle : NSUInteger {
 - (NSModalResponse)runModal;
 @end
 
+// appkit/nscolorspacename/devicergb
+using NSColorSpaceName = NSString*;
+extern "C" NSColorSpaceName NSDeviceRGBColorSpace;
+
 // appkit/nsbitmapimagerep
 @interface NSImageRep : NSObject
 @end
-using NSColorSpaceName = NSString*;
-extern "C" NSColorSpaceName const NSDeviceRGBColorSpace;
-// coregraphics/cgimage: opaque
-using CGImageRef = struct CGImage*;
 @interface NSBitmapImageRep : NSImageRep
 - (nullable instancetype)
     initWithBitmapDataPlanes:(unsigned char* _Nullable* _Nullable)planes
@@ -236,11 +226,9 @@ using CGImageRef = struct CGImage*;
               colorSpaceName:(NSColorSpaceName)colorSpaceName
                  bytesPerRow:(NSInteger)rBytes
                 bitsPerPixel:(NSInteger)pBits;
-- (instancetype)initWithCGImage:(CGImageRef)cgImage;
-@property(nullable, readonly) unsigned char* bitmapData;
+@property(nullable, readonly) unsigned char* bitmapData
+    __attribute__((objc_returns_inner_pointer));
 @property(readonly) NSInteger bytesPerRow;
-@property(readonly) NSInteger pixelsWide;
-@property(readonly) NSInteger pixelsHigh;
 @end
 
 // appkit/nsgraphicscontext
@@ -273,12 +261,10 @@ extern "C" const NSFontWeight NSFontWeightBold;
 
 // appkit/nsimage
 @interface NSImage : NSObject
-- (instancetype)initWithSize:(NSSize)size;
 + (nullable instancetype)imageWithSystemSymbolName:(NSString*)name
                           accessibilityDescription:(nullable NSString*)description;
 - (nullable NSImage*)imageWithSymbolConfiguration:(NSImageSymbolConfiguration*)configuration;
 @property NSSize size;
-- (void)addRepresentation:(NSImageRep*)imageRep;
 - (void)drawInRect:(NSRect)dstRect
           fromRect:(NSRect)srcRect
          operation:(NSCompositingOperation)operation

@@ -35,7 +35,7 @@ const CGFloat NSFontWeightRegular = 0;
 const CGFloat NSFontWeightMedium = 0.23;
 const CGFloat NSFontWeightSemibold = 0.3;
 const CGFloat NSFontWeightBold = 0.4;
-NSString* const NSDeviceRGBColorSpace = @"NSDeviceRGBColorSpace";
+NSString* NSDeviceRGBColorSpace = @"NSDeviceRGBColorSpace";
 
 @implementation NSImageRep
 @end

@@ -1,6 +1,7 @@
 #include "macos/fakes/cocoa/Objects.hh"
 
 #include <AppKit/AppKit.h>
+#include <QuartzCore/CALayer.h>
 
 using cocoaFake::appKit;
 using cocoaFake::Effect;
