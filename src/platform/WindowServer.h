@@ -17,8 +17,14 @@ enum class KeyboardFocus {
     WhenInFront,
 };
 
+/// The materials that a translucent background can be of.
+enum class VisualEffectMaterial { HudWindow = 13 };
+
+/// What shows through it.
+enum class VisualEffectBlendingMode { BehindWindow = 0 };
+
 /// A material that shows, blurred, what lies behind a window, and looks the same whether or not the
-/// program is in front. The first two are the numbers of the system that has materials.
+/// program is in front. The first two are the numbers of the system that has materials, as above.
 struct WindowMaterial {
     int material = 0;
     int blendingMode = 0;

@@ -1,16 +1,15 @@
 #pragma once
 
+#include "platform/WindowServer.h"
+
 #include <QColor>
 
 class QPalette;
 
 namespace bar {
 
-/// The materials that a translucent background can be of.
-enum class VisualEffectMaterial { HudWindow = 13 };
-
-/// What shows through it.
-enum class VisualEffectBlendingMode { BehindWindow = 0 };
+using platform::VisualEffectBlendingMode;
+using platform::VisualEffectMaterial;
 
 /// A translucent background, the same whether or not the program is in front.
 struct VisualEffectBackground {

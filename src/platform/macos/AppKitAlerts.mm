@@ -9,6 +9,8 @@ namespace platform {
 
 namespace {
 
+static_assert(Alerts::firstButtonReturn == NSAlertFirstButtonReturn);
+
 NSAlertStyle toStyle(AlertStyle style) {
     switch (style) {
     case AlertStyle::Warning:

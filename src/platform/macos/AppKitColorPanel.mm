@@ -6,6 +6,8 @@
 
 namespace platform {
 
+static_assert(static_cast<NSInteger>(ColorPanelMode::ColorList) == NSColorPanelModeColorList);
+
 void AppKitColorPanel::setMode(ColorPanelMode mode) {
     [NSColorPanel sharedColorPanel].mode = static_cast<NSColorPanelMode>(mode);
 }

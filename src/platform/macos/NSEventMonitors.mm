@@ -1,5 +1,6 @@
 #include "platform/macos/NSEventMonitors.h"
 
+#include "platform/KeyboardEvents.h"
 #include "platform/macos/CocoaValues.hh"
 #include "platform/macos/Strong.hh"
 
@@ -14,6 +15,12 @@ namespace {
 
 constexpr NSEventMask presses =
     NSEventMaskLeftMouseDown | NSEventMaskRightMouseDown | NSEventMaskOtherMouseDown;
+
+// The flags of an event are handed on as they are.
+static_assert(modifierFlags::shift == NSEventModifierFlagShift);
+static_assert(modifierFlags::control == NSEventModifierFlagControl);
+static_assert(modifierFlags::option == NSEventModifierFlagOption);
+static_assert(modifierFlags::command == NSEventModifierFlagCommand);
 
 /// Ends when the registration does; what the system refused is no registration.
 core::Registration keep(id monitor) {

@@ -9,6 +9,11 @@ namespace platform::nativeWindow {
 
 namespace {
 
+static_assert(static_cast<NSInteger>(VisualEffectMaterial::HudWindow) ==
+              NSVisualEffectMaterialHUDWindow);
+static_assert(static_cast<NSInteger>(VisualEffectBlendingMode::BehindWindow) ==
+              NSVisualEffectBlendingModeBehindWindow);
+
 /// On this system a window's identifier in the toolkit is the address of its view.
 NSView* viewOf(WId view) {
     return (__bridge NSView*)reinterpret_cast<void*>(view);
