@@ -42,7 +42,7 @@ Boolean AXIsProcessTrusted();
 Boolean AXIsProcessTrustedWithOptions(CFDictionaryRef _Nullable options);
 extern CFStringRef kAXTrustedCheckOptionPrompt;
 
-// applicationservices/1462068-axuielementgettypeid, 1459374-axuielementcreateapplication
+// applicationservices/1460085-axuielementgettypeid, 1459374-axuielementcreateapplication
 CFTypeID AXUIElementGetTypeID();
 AXUIElementRef AXUIElementCreateApplication(pid_t pid);
 
@@ -54,13 +54,13 @@ AXError AXUIElementSetMessagingTimeout(AXUIElementRef element, float timeoutInSe
 AXError AXUIElementCopyAttributeValue(AXUIElementRef element, CFStringRef attribute,
                                       CFTypeRef _Nullable* _Nonnull value);
 
-// applicationservices/1462351-axuielementcopyparameterizedattributevalue
+// applicationservices/1461203-axuielementcopyparameterizedattr
 AXError AXUIElementCopyParameterizedAttributeValue(AXUIElementRef element,
                                                    CFStringRef parameterizedAttribute,
                                                    CFTypeRef parameter,
                                                    CFTypeRef _Nullable* _Nonnull result);
 
-// applicationservices/1458919-axvaluegettypeid, 1462933-axvaluegetvalue
+// applicationservices/1460780-axvaluegettypeid, 1462933-axvaluegetvalue
 CFTypeID AXValueGetTypeID();
 Boolean AXValueGetValue(AXValueRef value, AXValueType theType, void* valuePtr);
 

@@ -7,7 +7,7 @@
 QUILLET_ASSUME_NONNULL_BEGIN
 extern "C" {
 
-// corefoundation/boolean, cfindex, cftypeid, cftimeinterval, unichar, sint32, uint32
+// The SDK's <MacTypes.h>, which has no page; corefoundation/cfindex, cftypeid, cftimeinterval
 using Boolean = unsigned char;
 using SInt32 = std::int32_t;
 using UInt32 = std::uint32_t;
@@ -24,7 +24,7 @@ using CFBooleanRef = const struct __CFBoolean*;
 using CFDictionaryRef = const struct __CFDictionary*;
 using CFDataRef = const struct __CFData*;
 
-// corefoundation/cfretain(_:), cfrelease(_:), cfgettypeid(_:)
+// corefoundation/cfretain, cfrelease, cfgettypeid(_:)
 CFTypeRef CFRetain(CFTypeRef cf);
 void CFRelease(CFTypeRef cf);
 CFTypeID CFGetTypeID(CFTypeRef cf);

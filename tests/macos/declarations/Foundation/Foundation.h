@@ -6,17 +6,21 @@
 
 QUILLET_ASSUME_NONNULL_BEGIN
 
-// objectivec/bool-swift.struct, nsinteger, nsuinteger
+// objectivec/bool, nsinteger, nsuinteger: the compiler says which of the two the processor has
+#if __OBJC_BOOL_IS_BOOL
 using BOOL = bool;
+#else
+using BOOL = signed char;
+#endif
 #define YES __objc_yes
 #define NO __objc_no
-// objectivec/nil: null as an object
+// objectivec/nil-227m0: null as an object
 #define nil nullptr
 using NSInteger = long;
 using NSUInteger = unsigned long;
 using unichar = unsigned short;
 
-// foundation/nstimeinterval, nsrect, nspoint, nssize, nsrange
+// foundation/nstimeinterval, nsrect, nspoint, nssize, nsrange-c.struct
 using NSTimeInterval = double;
 using NSPoint = CGPoint;
 using NSSize = CGSize;
@@ -92,7 +96,7 @@ extern "C" NSString* NSUserName(void);
 
 // foundation/nsnumber, nsvalue
 @interface NSValue : NSObject <NSCopying>
-@property(readonly) const char* objCType;
+@property(readonly) const char* objCType __attribute__((objc_returns_inner_pointer));
 @end
 enum NSComparisonResult : NSInteger {
     NSOrderedAscending = -1,
