@@ -11,6 +11,12 @@ namespace platform {
 
 namespace {
 
+// The flags are handed on as they are.
+static_assert(modifierFlags::shift == kCGEventFlagMaskShift);
+static_assert(modifierFlags::control == kCGEventFlagMaskControl);
+static_assert(modifierFlags::option == kCGEventFlagMaskAlternate);
+static_assert(modifierFlags::command == kCGEventFlagMaskCommand);
+
 struct QuartzSource final : EventSource {
     explicit QuartzSource(CfReference<CGEventSourceRef> s)
         : source(std::move(s)) {}

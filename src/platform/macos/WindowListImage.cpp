@@ -9,13 +9,8 @@ namespace platform {
 
 namespace {
 
-using CreateImage = CGImageRef (*)(CGRect bounds, std::uint32_t listOption, std::uint32_t window,
-                                   std::uint32_t imageOption);
-
-/// "kCGWindowListOptionOnScreenBelowWindow"
-constexpr std::uint32_t onScreenBelowWindow = 4;
-/// "kCGWindowImageBoundsIgnoreFraming": without shadows.
-constexpr std::uint32_t boundsIgnoreFraming = 1;
+using CreateImage = CGImageRef (*)(CGRect bounds, CGWindowListOption listOption, CGWindowID window,
+                                   CGWindowImageOption imageOption);
 
 } // namespace
 
@@ -25,9 +20,10 @@ QImage windowListImageBelow(std::uint32_t window) {
     if (createImage == nullptr) {
         return {};
     }
-    // The null rectangle stands for the smallest one around all the windows.
-    const CfReference<CGImageRef> image(
-        createImage(CGRectNull, onScreenBelowWindow, window, boundsIgnoreFraming));
+    // The null rectangle stands for the smallest one around all the windows, without their shadows.
+    const CfReference<CGImageRef> image(createImage(CGRectNull,
+                                                    kCGWindowListOptionOnScreenBelowWindow, window,
+                                                    kCGWindowImageBoundsIgnoreFraming));
     return toQImage(image.get());
 }
 

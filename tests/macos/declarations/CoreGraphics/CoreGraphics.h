@@ -67,8 +67,19 @@ void CGEventPost(CGEventTapLocation tap, CGEventRef _Nullable event);
 bool CGPreflightScreenCaptureAccess() QUILLET_MACOS(10.15);
 bool CGRequestScreenCaptureAccess() QUILLET_MACOS(10.15);
 
-// corefoundation/cgrectnull
+// coregraphics/cgrectnull
 extern const CGRect CGRectNull;
+
+// coregraphics/cgwindowid, cgwindowlistoption, cgwindowimageoption
+using CGWindowID = std::uint32_t;
+using CGWindowListOption = std::uint32_t;
+enum : CGWindowListOption {
+    kCGWindowListOptionOnScreenBelowWindow = 1U << 2U,
+};
+using CGWindowImageOption = std::uint32_t;
+enum : CGWindowImageOption {
+    kCGWindowImageBoundsIgnoreFraming = 1U << 0U,
+};
 
 // coregraphics/cgimage, cgcontext, cgcolorspace
 using CGImageRef = struct CGImage*;
@@ -85,12 +96,11 @@ CGColorSpaceRef _Nullable CGColorSpaceCreateWithName(CFStringRef _Nullable name)
 
 // coregraphics/cgimagealphainfo, cgbitmapinfo
 enum CGImageAlphaInfo : std::uint32_t {
-    kCGImageAlphaPremultipliedLast = 1,
     kCGImageAlphaPremultipliedFirst = 2,
 };
-enum CGBitmapInfo : std::uint32_t {
+using CGBitmapInfo = std::uint32_t;
+enum : CGBitmapInfo {
     kCGBitmapByteOrder32Little = 2U << 12U,
-    kCGBitmapByteOrder32Big = 4U << 12U,
 };
 
 // coregraphics/cgcontext/init(data:width:height:bitspercomponent:bytesperrow:space:bitmapinfo:)

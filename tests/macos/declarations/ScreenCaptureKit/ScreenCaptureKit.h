@@ -18,7 +18,6 @@
 QUILLET_ASSUME_NONNULL_BEGIN
 
 // screencapturekit/scwindow
-using CGWindowID = std::uint32_t;
 QUILLET_MACOS(12.3)
 @interface SCWindow : NSObject
 @property(readonly) CGWindowID windowID;
