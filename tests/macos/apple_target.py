@@ -20,6 +20,8 @@ import sys
 TARGET = ["-fobjc-arc", "-fblocks", "-std=c++20", "-O1",
           "-U__APPLE__", "-U__MACH__", "-U__nonnull", "-U__nullable", "-D__linux__", "-D__ELF__",
           "-D_GNU_SOURCE", "-DQT_NO_VERSION_TAGGING", "-ferror-limit=5", "-nostdinc++", "-nostdlibinc"]
+# To this system's headers every processor is their own; the one builtin of it that they call does nothing.
+OTHER_PROCESSOR = ["-D__x86_64__", "-D__builtin_ia32_pause()=(void)0"]
 WARNINGS = ["-Werror", "-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Wconversion", "-Wold-style-cast",
             "-Wnon-virtual-dtor", "-Woverloaded-virtual", "-Wnullable-to-nonnull-conversion", "-Wnonnull",
             "-Wunguarded-availability", "-Wobjc-method-access", "-Wundeclared-selector", "-Wstrict-selector-match",
@@ -38,7 +40,7 @@ class Toolchain:
         self.root = pathlib.Path(self.settings["source"])
         self.layer = self.root / "src/platform/macos"
         oldest = re.search(r"CMAKE_OSX_DEPLOYMENT_TARGET (\S+)", (self.root / "CMakeLists.txt").read_text())[1]
-        self.target = f"x86_64-apple-macos{oldest}"
+        self.target = f"apple-macos{oldest}"
         self.objects = pathlib.Path(self.settings["build"]) / "objects"
 
     def sources(self):
@@ -47,15 +49,16 @@ class Toolchain:
     def headers(self):
         return sorted(self.layer.rglob("*.h*"))
 
-    def command(self, source, *more):
+    def command(self, source, *more, arm):
         language = "objective-c++" if source.suffix == ".mm" else "c++"
         own = ["-I" + str(self.root / "src"), "-I" + str(self.root / "tests/macos/declarations")]
         system = [part for folder in self.settings["includes"] for part in ("-isystem", folder)]
-        return [self.settings["compiler"], "-target", self.target, *TARGET, *WARNINGS, *DEFINITIONS, *own, *system,
+        processor = ["-target", "arm64-" + self.target, *OTHER_PROCESSOR] if arm else ["-target", "x86_64-" + self.target]
+        return [self.settings["compiler"], *processor, *TARGET, *WARNINGS, *DEFINITIONS, *own, *system,
                 "-x", language, *more, str(source)]
 
-    def run(self, source, *more):
-        return subprocess.run(self.command(source, *more), capture_output=True, text=True, check=False)
+    def run(self, source, *more, arm=False):
+        return subprocess.run(self.command(source, *more, arm=arm), capture_output=True, text=True, check=False)
 
     def object_of(self, source):
         return self.objects / (str(source.relative_to(self.layer)).replace("/", "_") + ".o")
@@ -71,11 +74,14 @@ def compile_layer(tools):
     for stale in tools.objects.glob("*.o"):
         stale.unlink()
     failures = 0
-    for source, done in in_parallel(
-            lambda s: (s, tools.run(s, "-c", "-o", str(tools.object_of(s)))), tools.sources()):
+    built = in_parallel(lambda s: (s, "x86_64", tools.run(s, "-c", "-o", str(tools.object_of(s)))), tools.sources())
+    # What differs between the processors is Objective-C's: its BOOL, and how structures are returned.
+    built += in_parallel(lambda s: (s, "arm64", tools.run(s, "-fsyntax-only", arm=True)),
+                         [s for s in tools.sources() if s.suffix == ".mm"])
+    for source, processor, done in built:
         if done.returncode != 0:
             failures += 1
-            print(f"{source.relative_to(tools.root)} does not compile for Apple's target:\n{done.stderr}")
+            print(f"{source.relative_to(tools.root)} does not compile for Apple's {processor}:\n{done.stderr}")
     listed = (tools.layer / "CMakeLists.txt").read_text(encoding="utf-8")
     for path in tools.sources() + tools.headers():
         if not re.search(rf"(?<![\w/]){re.escape(str(path.relative_to(tools.layer)))}(?!\w)", listed):
