@@ -189,18 +189,13 @@ class Session:
 
     def start_window_manager(self):
         """Also after an earlier one has ended."""
-        self.window_manager = self.start(["openbox", "--sm-disable"])
-        wait.until(self._window_manager_is_there, 10.0, "the window manager is up")
-
-    def _window_manager_is_there(self):
-        told = self.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"])
-        if "window id" not in told:
-            return False
-        # One that crashed leaves the property behind, with a window that is gone.
-        window = told.split()[-1]
-        return subprocess.run(["xprop", "-id", window], env=self.environment,
-                              stdin=subprocess.DEVNULL, capture_output=True,
-                              timeout=10).returncode == 0
+        # It makes this file once it manages windows. Its properties on the root window come earlier,
+        # and a window that is mapped in between may stay unseen.
+        sign = self.path("managing")
+        if os.path.exists(sign):
+            os.remove(sign)
+        self.start(["openbox", "--sm-disable", "--startup", f"touch {sign}"])
+        wait.until(lambda: os.path.exists(sign), 10.0, "the window manager is up")
 
     def _switch_accessibility_on(self):
         """Before any application starts: some look only then."""

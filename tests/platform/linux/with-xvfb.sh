@@ -38,16 +38,18 @@ read -r -t 20 number <"$folder/display" || {
 export DISPLAY=:$number
 
 if [ -n "$window_manager" ]; then
-    setpriv --pdeathsig TERM openbox 2>"$folder/manager.log" &
+    # It runs this command once it manages windows. Its properties on the root window come earlier,
+    # and a window that is mapped in between may stay unseen.
+    setpriv --pdeathsig TERM openbox --startup "touch $folder/managing" 2>"$folder/manager.log" &
     manager=$!
-    # It owns the selection of that name as soon as it manages windows.
     limit=$((SECONDS + 20))
-    until xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; do
+    until [ -e "$folder/managing" ]; do
         if [ $SECONDS -ge $limit ] || ! kill -0 "$manager" 2>/dev/null; then
             echo "with-xvfb.sh: the window manager does not start:" >&2
             cat "$folder/manager.log" >&2
             exit 1
         fi
+        sleep 0.02
     done
 fi
 
