@@ -7,7 +7,6 @@
 /// What the program above sees of the same field must not depend on the system below.
 namespace {
 
-using fakes::Misbehaviour;
 using platform::Rect;
 
 enum class Situation {
@@ -23,10 +22,8 @@ enum class Situation {
 class AtSpiDesktop : public fakes::AtSpiFixture {
 public:
     std::unique_ptr<platform::Accessibility> show(Situation situation) {
-        auto& application = desktop.addApplication();
         auto object = focusedText(QStringLiteral("one two"), {{4, 7}});
         object.ranges.insert({4, 7}, {10, 20, 30, 40});
-        const auto silent = Misbehaviour{Misbehaviour::Kind::Silent, {}};
         switch (situation) {
         case Situation::AWordIsSelected:
             break;
@@ -46,11 +43,11 @@ public:
             object.states = {platform::State::Editable};
             break;
         case Situation::TheApplicationHangs:
-            object.misbehaviours.insert(QStringLiteral("GetText"), silent);
+            object.misbehaviours.insert(QStringLiteral("GetText"), fakes::silence);
             limits.deadline = std::chrono::milliseconds(60);
             break;
         }
-        AtSpiFixture::show(application, object);
+        AtSpiFixture::show(object);
         if (situation == Situation::NothingHasTheFocus) {
             application.answerSearch({});
         }

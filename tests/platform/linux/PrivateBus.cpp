@@ -1,9 +1,6 @@
 #include "PrivateBus.h"
 
-#include <QCoreApplication>
-#include <QElapsedTimer>
-#include <QEventLoop>
-#include <QThread>
+#include <QFile>
 #include <gtest/gtest.h>
 
 #include <csignal>
@@ -11,13 +8,31 @@
 namespace fakes {
 
 namespace {
+
 constexpr int limitMilliseconds = 5000;
-}
+
+constexpr auto configuration = R"(<busconfig>
+  <type>session</type>
+  <listen>unix:dir=%1</listen>
+  <policy context="default">
+    <allow send_destination="*" eavesdrop="true"/>
+    <allow eavesdrop="true"/>
+    <allow own="*"/>
+  </policy>
+</busconfig>
+)";
+
+} // namespace
 
 PrivateBus::PrivateBus() {
+    QFile file(folder_.filePath(QStringLiteral("bus.conf")));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QString::fromLatin1(configuration).arg(folder_.path()).toUtf8());
+    file.close();
+    daemon_.setStandardErrorFile(QProcess::nullDevice());
     daemon_.start(QStringLiteral("dbus-daemon"),
-                  {QStringLiteral("--session"), QStringLiteral("--nofork"),
-                   QStringLiteral("--nopidfile"), QStringLiteral("--print-address")});
+                  {QStringLiteral("--nofork"), QStringLiteral("--print-address"),
+                   QStringLiteral("--config-file=") + file.fileName()});
     while (!daemon_.canReadLine()) {
         if (!daemon_.waitForReadyRead(limitMilliseconds)) {
             ADD_FAILURE() << "dbus-daemon does not start: " << daemon_.errorString().toStdString();
@@ -49,16 +64,6 @@ QDBusConnection PrivateBus::connect() {
 void PrivateBus::disconnect(const QDBusConnection& connection) {
     connections_.removeOne(connection.name());
     QDBusConnection::disconnectFromBus(connection.name());
-}
-
-bool waitUntil(const std::function<bool()>& condition) {
-    QElapsedTimer timer;
-    timer.start();
-    while (!condition() && timer.elapsed() < limitMilliseconds) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-        QThread::msleep(1);
-    }
-    return condition();
 }
 
 } // namespace fakes

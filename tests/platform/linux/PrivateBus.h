@@ -2,12 +2,12 @@
 
 #include <QDBusConnection>
 #include <QProcess>
-
-#include <functional>
+#include <QTemporaryDir>
 
 namespace fakes {
 
-/// A session bus of the test's own, ended with this object.
+/// A message bus of the test's own, ended with this object. Whoever asks for a name that nobody
+/// owns gets an error: nothing is started.
 class PrivateBus {
 public:
     /// A bus that cannot be started fails the test and leaves connections that are not connected.
@@ -25,12 +25,10 @@ public:
     const QString& address() const { return address_; }
 
 private:
+    QTemporaryDir folder_;
     QProcess daemon_;
     QString address_;
     QStringList connections_;
 };
-
-/// Lets the event loop run until `condition` holds, five seconds at most; answers whether it holds.
-bool waitUntil(const std::function<bool()>& condition);
 
 } // namespace fakes

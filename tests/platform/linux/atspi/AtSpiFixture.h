@@ -1,9 +1,9 @@
 #pragma once
 
+#include "fakes/Eventually.h"
 #include "platform/linux/atspi/AtSpiAccessibility.h"
 #include "platform/linux/atspi/FakeDesktop.h"
 
-#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <gtest/gtest.h>
 
@@ -38,6 +38,7 @@ protected:
         limits.deadline = std::chrono::seconds(5);
     }
 
+    /// The layer anew, as after a start of the program.
     void start() {
         accessibility.emplace(windows, desktop.session(), limits);
         ASSERT_TRUE(accessibility->isProcessTrusted(platform::TrustPrompt::Hidden));
@@ -46,32 +47,25 @@ protected:
     /// A window with one text in it, which has the focus.
     static FakeObject focusedText(const QString& text,
                                   std::vector<std::pair<int, int>> selections) {
-        FakeObject object;
-        object.states = {platform::State::Focused, platform::State::Editable};
-        object.parent = QStringLiteral("/window");
-        object.text = text;
-        object.selections = std::move(selections);
-        return object;
+        return {.states = {platform::State::Focused, platform::State::Editable},
+                .parent = QStringLiteral("/window"),
+                .text = text,
+                .selections = std::move(selections)};
     }
 
-    void show(FakeApplication& application, const FakeObject& text) {
-        FakeObject root;
-        root.children = {QStringLiteral("/window")};
-        FakeObject window;
-        window.states = {platform::State::Active};
-        window.hasText = false;
-        window.children = {QStringLiteral("/text")};
-        application.set(QStringLiteral("root"), root);
-        application.set(QStringLiteral("/window"), window);
+    void show(const FakeObject& text) {
+        application.set(QStringLiteral("root"), {.children = {QStringLiteral("/window")}});
+        application.set(QStringLiteral("/window"), {.states = {platform::State::Active},
+                                                    .hasText = false,
+                                                    .children = {QStringLiteral("/text")}});
         application.set(QStringLiteral("/text"), text);
         application.answerSearch({QStringLiteral("/text")});
     }
 
     Look look() {
         const int before = accessibility->callCount();
-        const auto application =
-            accessibility->applicationElement(QCoreApplication::applicationPid());
-        const auto element = accessibility->focusedElement(application);
+        const auto element = accessibility->focusedElement(
+            accessibility->applicationElement(QCoreApplication::applicationPid()));
         Look result;
         result.focused = element != nullptr;
         result.text = accessibility->selectedText(element);
@@ -82,22 +76,8 @@ protected:
         return result;
     }
 
-    /// Lets events come in until `condition` holds.
-    template <typename Condition>
-    static bool eventually(Condition condition) {
-        QElapsedTimer timer;
-        timer.start();
-        while (!condition()) {
-            if (timer.hasExpired(5000)) {
-                return false;
-            }
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents,
-                                            5);
-        }
-        return true;
-    }
-
     FakeDesktop desktop;
+    FakeApplication& application = desktop.application;
     StillWindows windows;
     platform::ReadingLimits limits;
     std::optional<platform::AtSpiAccessibility> accessibility;

@@ -1,5 +1,6 @@
 #include "platform/linux/atspi/AtSpiFixture.h"
 
+using namespace Qt::StringLiterals;
 using fakes::FakeObject;
 using platform::Extents;
 using platform::PixelRect;
@@ -9,24 +10,16 @@ namespace {
 
 class BoundsTest : public fakes::AtSpiFixture {
 protected:
-    BoundsTest()
-        : application(desktop.addApplication()) {
-        start();
-    }
-
     std::optional<Rect> boundsOf(const FakeObject& object) {
-        show(application, object);
-        accessibility.emplace(windows, desktop.session(), limits);
-        EXPECT_TRUE(accessibility->isProcessTrusted(platform::TrustPrompt::Hidden));
+        show(object);
+        start();
         return look().bounds;
     }
     std::optional<Rect> boundsFor(const Extents& extents) {
-        auto object = focusedText(QStringLiteral("text"), {{0, 4}});
+        auto object = focusedText(u"text"_s, {{0, 4}});
         object.ranges.insert({0, 4}, extents);
         return boundsOf(object);
     }
-
-    fakes::FakeApplication& application;
 };
 
 TEST_F(BoundsTest, WhatIsSomewhereAndWhatIsNowhere) {
@@ -59,21 +52,19 @@ TEST_F(BoundsTest, PixelsBecomePoints) {
 }
 
 TEST_F(BoundsTest, SeveralPiecesAreUnited) {
-    auto object = focusedText(QStringLiteral("one two three"), {{0, 3}, {4, 7}, {8, 13}});
+    auto object = focusedText(u"one two three"_s, {{0, 3}, {4, 7}, {8, 13}});
     object.ranges.insert({0, 3}, {10, 20, 30, 10});
     object.ranges.insert({8, 13}, {5, 40, 10, 10});
     EXPECT_EQ(boundsOf(object), (Rect{5, 20, 35, 30}));
 }
 
 TEST_F(BoundsTest, NoAnswerOrAWrongOneIsNone) {
-    auto object = focusedText(QStringLiteral("text"), {{0, 4}});
-    object.misbehaviours.insert(QStringLiteral("GetRangeExtents"),
-                                {fakes::Misbehaviour::Kind::Error, {}});
-    EXPECT_EQ(boundsOf(object), std::nullopt);
-    object.misbehaviours.insert(
-        QStringLiteral("GetRangeExtents"),
-        {fakes::Misbehaviour::Kind::Answer, {QVariant::fromValue(Extents{1, 2, 3, 4})}});
-    EXPECT_EQ(boundsOf(object), std::nullopt);
+    auto object = focusedText(u"text"_s, {{0, 4}});
+    for (const auto& wrong : {fakes::Misbehaviour(fakes::refusal),
+                              fakes::answering({QVariant::fromValue(Extents{1, 2, 3, 4})})}) {
+        object.misbehaviours[u"GetRangeExtents"_s] = wrong;
+        EXPECT_EQ(boundsOf(object), std::nullopt);
+    }
 }
 
 TEST_F(BoundsTest, OfALongTextPiecesAreAskedFor) {
@@ -87,47 +78,38 @@ TEST_F(BoundsTest, OfALongTextPiecesAreAskedFor) {
 
 TEST_F(BoundsTest, APaneThatForgetsTheMenuBarIsPutRight) {
     windows.clientArea = PixelRect{30, 19, 1280, 781};
-    FakeObject pane;
-    pane.role = static_cast<unsigned>(platform::Role::RootPane);
-    application.set(QStringLiteral("/pane"), pane);
-    auto object = focusedText(QStringLiteral("text"), {{0, 4}});
-    object.parent = QStringLiteral("/pane");
+    auto object = focusedText(u"text"_s, {{0, 4}});
+    object.parent = u"/pane"_s;
     object.ranges.insert({0, 4}, {282, 217, 303, 19});
-
-    pane.extents = {20, 19, 1280, 756};
-    application.set(QStringLiteral("/pane"), pane);
-    EXPECT_EQ(boundsOf(object), (Rect{292, 242, 303, 19}));
-
+    show(object);
+    start();
+    const auto boundsInPane = [&](const Extents& told) {
+        application.set(u"/pane"_s,
+                        {.role = static_cast<unsigned>(platform::Role::RootPane), .extents = told});
+        return look().bounds;
+    };
+    EXPECT_EQ(boundsInPane({20, 19, 1280, 756}), (Rect{292, 242, 303, 19}));
     // It may know better at any time.
-    pane.extents = {30, 44, 1280, 756};
-    application.set(QStringLiteral("/pane"), pane);
-    EXPECT_EQ(look().bounds, (Rect{282, 217, 303, 19}));
-
+    EXPECT_EQ(boundsInPane({30, 44, 1280, 756}), (Rect{282, 217, 303, 19}));
     // A pane of another size tells nothing.
-    pane.extents = {0, 19, 600, 756};
-    application.set(QStringLiteral("/pane"), pane);
-    EXPECT_EQ(look().bounds, (Rect{282, 217, 303, 19}));
+    EXPECT_EQ(boundsInPane({0, 19, 600, 756}), (Rect{282, 217, 303, 19}));
 }
 
 TEST_F(BoundsTest, UnitsOfSeveralPixelsAreKnownByTheSizeOfTheWindow) {
-    auto object = focusedText(QStringLiteral("text"), {{0, 4}});
+    auto object = focusedText(u"text"_s, {{0, 4}});
     object.ranges.insert({0, 4}, {347, 237, 45, 18});
-    show(application, object);
-    FakeObject root;
-    root.role = static_cast<unsigned>(platform::Role::Application);
-    root.children = {QStringLiteral("/window")};
-    application.set(QStringLiteral("root"), root);
-    FakeObject window;
-    window.states = {platform::State::Active};
-    window.hasText = false;
-    window.parent = QStringLiteral("/org/a11y/atspi/accessible/root");
-    window.children = {QStringLiteral("/text")};
+    show(object);
+    application.set(u"root"_s, {.role = static_cast<unsigned>(platform::Role::Application),
+                                .children = {u"/window"_s}});
+    start();
     const auto boundsInWindow = [&](const Extents& told) {
-        window.extents = told;
-        application.set(QStringLiteral("/window"), window);
+        application.set(u"/window"_s, {.states = {platform::State::Active},
+                                       .hasText = false,
+                                       .parent = platform::ObjectReference::root({}).path,
+                                       .children = {u"/text"_s},
+                                       .extents = told});
         return look().bounds;
     };
-    start();
     windows.clientArea = PixelRect{401, 420, 1000, 600};
     EXPECT_EQ(boundsInWindow({200, 210, 500, 300}), (Rect{694, 474, 90, 36}));
     // Without the invisible edges that belong to the window.

@@ -3,7 +3,6 @@
 #include <QDBusError>
 #include <QDBusVariant>
 #include <QMutexLocker>
-#include <QThread>
 
 namespace fakes {
 
@@ -11,38 +10,27 @@ namespace {
 
 const auto root = QStringLiteral("/org/a11y/atspi/accessible/root");
 
-QString connectionName() {
-    static std::atomic<int> number = 0;
-    return QStringLiteral("fake-application-%1").arg(++number);
+QVariantList property(const QVariant& value) {
+    return {QVariant::fromValue(QDBusVariant(value))};
 }
 
-QString pathOf(const QString& name) {
-    return name == u"root" ? root : name;
+QList<unsigned> stateBits(const std::vector<platform::State>& states) {
+    QList<unsigned> words{0, 0};
+    for (const auto state : states) {
+        words[static_cast<int>(state) / 32] |= 1U << (static_cast<int>(state) % 32);
+    }
+    return words;
 }
 
 } // namespace
 
-FakeApplication::FakeApplication(const QString& address, QThread& server)
-    : connection_(QDBusConnection::connectToBus(address, connectionName())) {
-    platform::registerWireTypes();
-    connection_.registerVirtualObject(QStringLiteral("/"), this, QDBusConnection::SubPath);
-    moveToThread(&server);
-}
-
-FakeApplication::~FakeApplication() {
-    quit();
-}
-
-void FakeApplication::quit() {
-    connection_.unregisterObject(QStringLiteral("/"), QDBusConnection::UnregisterTree);
-    QDBusConnection::disconnectFromBus(connection_.name());
-    // The bus notices when the last reference goes.
-    connection_ = QDBusConnection(QString());
-}
+FakeApplication::FakeApplication(const QDBusConnection& connection, QThread& server)
+    : connection_(connection)
+    , responder_(connection, server, [this](const QDBusMessage& call) { return answer(call); }) {}
 
 void FakeApplication::set(const QString& path, const FakeObject& object) {
     const QMutexLocker locker(&mutex_);
-    objects_.insert(pathOf(path), object);
+    objects_.insert(path == u"root" ? root : path, object);
 }
 
 void FakeApplication::removeObject(const QString& path) {
@@ -50,98 +38,88 @@ void FakeApplication::removeObject(const QString& path) {
     objects_.remove(path);
 }
 
-void FakeApplication::answerSearch(const QList<QString>& paths) {
+void FakeApplication::answerSearch(const QStringList& paths) {
     const QMutexLocker locker(&mutex_);
     searchAnswer_ = paths;
 }
 
 void FakeApplication::sendEvent(const QString& path, const QString& interface, const QString& name,
-                                const QString& detail, int value) {
+                                const QString& detail, const QVariant& value) {
     auto event =
         QDBusMessage::createSignal(path, QStringLiteral("org.a11y.atspi.Event.") + interface, name);
     event.setArguments({detail, value, 0, QVariant::fromValue(QDBusVariant(0)), QVariantMap()});
     connection_.send(event);
 }
 
-bool FakeApplication::handleMessage(const QDBusMessage& message,
-                                    const QDBusConnection& connection) {
+QDBusMessage FakeApplication::answer(const QDBusMessage& call) const {
     const QMutexLocker locker(&mutex_);
-    const auto object = objects_.constFind(message.path());
+    const auto object = objects_.constFind(call.path());
     if (object == objects_.cend()) {
-        return connection.send(
-            message.createErrorReply(QDBusError::UnknownObject, QStringLiteral("gone")));
+        return call.createErrorReply(QDBusError::UnknownObject, QStringLiteral("gone"));
     }
-    const auto question =
-        message.member() == u"Get" ? message.arguments().at(1).toString() : message.member();
-    if (const auto misbehaviour = object->misbehaviours.constFind(question);
-        misbehaviour != object->misbehaviours.cend()) {
-        switch (misbehaviour->kind) {
-        case Misbehaviour::Kind::Silent:
-            return true;
-        case Misbehaviour::Kind::Error:
-            return connection.send(
-                message.createErrorReply(QDBusError::NotSupported, QStringLiteral("no")));
-        case Misbehaviour::Kind::Answer:
-            return connection.send(message.createReply(misbehaviour->answer));
-        }
+    const QString question =
+        call.member() == u"Get" ? call.arguments().at(1).toString() : call.member();
+    if (const auto misbehaviour = object->misbehaviours.value(question)) {
+        return misbehaviour(call);
     }
-    const auto reply = answer(*object, message);
-    return connection.send(reply ? message.createReply(*reply)
-                                 : message.createErrorReply(QDBusError::UnknownMethod, question));
+    const QVariantList values = ownAnswer(*object, question, call.arguments());
+    return values.isEmpty() ? call.createErrorReply(QDBusError::UnknownMethod, question)
+                            : call.createReply(values);
 }
 
-std::optional<QVariantList> FakeApplication::answer(const FakeObject& object,
-                                                    const QDBusMessage& message) const {
-    const auto member = message.member();
-    const auto arguments = message.arguments();
-    if (member == u"Get") {
-        const auto value = arguments.at(1).toString() == u"ChildCount"
-                               ? QVariant(static_cast<int>(object.children.size()))
-                               : QVariant::fromValue(reference(object.parent));
-        return QVariantList{QVariant::fromValue(QDBusVariant(value))};
+/// Nothing for a question that the object does not understand.
+QVariantList FakeApplication::ownAnswer(const FakeObject& object, const QString& question,
+                                        const QVariantList& arguments) const {
+    if (question == u"ChildCount") {
+        return property(static_cast<int>(object.children.size()));
     }
-    if (member == u"GetRole") {
-        return QVariantList{object.role};
+    if (question == u"Parent") {
+        return property(QVariant::fromValue(reference(object.parent)));
     }
-    if (member == u"GetState") {
-        QList<unsigned> words{0, 0};
-        for (const auto state : object.states) {
-            words[static_cast<int>(state) / 32] |= 1U << (static_cast<int>(state) % 32);
-        }
-        return QVariantList{QVariant::fromValue(words)};
+    if (question == u"GetRole") {
+        return {object.role};
     }
-    if (member == u"GetInterfaces") {
-        return QVariantList{object.hasText ? QStringList{QStringLiteral("org.a11y.atspi.Text")}
-                                           : QStringList()};
+    if (question == u"GetState") {
+        return {QVariant::fromValue(stateBits(object.states))};
     }
-    if (member == u"GetChildren") {
-        return QVariantList{references(object.children)};
+    if (question == u"GetInterfaces") {
+        return {object.hasText ? QStringList{QStringLiteral("org.a11y.atspi.Text")}
+                               : QStringList()};
     }
-    if (member == u"GetMatches" && searchAnswer_) {
-        return QVariantList{references(*searchAnswer_)};
+    if (question == u"GetChildren") {
+        return {references(object.children)};
     }
-    if (member == u"GetExtents") {
-        return QVariantList{QVariant::fromValue(object.extents)};
+    if (question == u"GetMatches" && searchAnswer_) {
+        return {references(*searchAnswer_)};
     }
-    if (member == u"GetNSelections" && object.hasText) {
-        return QVariantList{static_cast<int>(object.selections.size())};
+    if (question == u"GetExtents") {
+        return {QVariant::fromValue(object.extents)};
     }
-    if (member == u"GetSelection" && object.hasText) {
-        const auto [start, end] = object.selections.at(arguments.at(0).toUInt());
-        return QVariantList{start, end};
-    }
-    if (member == u"GetText" && object.hasText) {
-        const int start = arguments.at(0).toInt();
-        return QVariantList{object.text.mid(start, arguments.at(1).toInt() - start)};
-    }
-    if (member == u"GetRangeExtents" && object.hasText) {
-        const auto range = object.ranges.value({arguments.at(0).toInt(), arguments.at(1).toInt()});
-        return QVariantList{range.x, range.y, range.width, range.height};
-    }
-    return std::nullopt;
+    return object.hasText ? ofText(object, question, arguments) : QVariantList();
 }
 
-QVariant FakeApplication::references(const QList<QString>& paths) const {
+QVariantList FakeApplication::ofText(const FakeObject& object, const QString& question,
+                                     const QVariantList& arguments) {
+    if (question == u"GetNSelections") {
+        return {static_cast<int>(object.selections.size())};
+    }
+    const int first = arguments.value(0).toInt();
+    const int second = arguments.value(1).toInt();
+    if (question == u"GetSelection") {
+        const auto [start, end] = object.selections.at(static_cast<std::size_t>(first));
+        return {start, end};
+    }
+    if (question == u"GetText") {
+        return {object.text.mid(first, second - first)};
+    }
+    if (question == u"GetRangeExtents") {
+        const auto range = object.ranges.value({first, second});
+        return {range.x, range.y, range.width, range.height};
+    }
+    return {};
+}
+
+QVariant FakeApplication::references(const QStringList& paths) const {
     QList<platform::ObjectReference> list;
     for (const auto& path : paths) {
         list.push_back(reference(path));

@@ -2,50 +2,45 @@
 
 #include "platform/linux/atspi/FakeObject.h"
 #include "platform/linux/atspi/ObjectReference.h"
+#include "platform/linux/atspi/Responder.h"
 
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusVirtualObject>
-#include <QMap>
 #include <QMutex>
 
-#include <atomic>
+#include <optional>
 
 namespace fakes {
 
-/// An application on the accessibility bus, made of a table of objects. It answers in the thread
-/// of the server; everything else is called by the test.
-class FakeApplication final : public QDBusVirtualObject {
+/// An application on the accessibility bus, made of a table of objects.
+class FakeApplication {
 public:
-    FakeApplication(const QString& address, QThread& server);
-    ~FakeApplication() override;
+    FakeApplication(const QDBusConnection& connection, QThread& server);
 
-    QString service() const { return connection_.baseService(); }
-    platform::ObjectReference reference(const QString& path) const { return {service(), path}; }
+    platform::ObjectReference reference(const QString& path) const {
+        return {connection_.baseService(), path};
+    }
 
     /// Replaces an object; a path of "root" stands for the application's own object.
     void set(const QString& path, const FakeObject& object);
     void removeObject(const QString& path);
     /// What a search for the focused object finds; without this call there is no search.
-    void answerSearch(const QList<QString>& paths);
+    void answerSearch(const QStringList& paths);
 
     void sendEvent(const QString& path, const QString& interface, const QString& name,
-                   const QString& detail = QString(), int value = 0);
-    void send(const QDBusMessage& message) { connection_.send(message); }
-    /// Leaves the bus.
-    void quit();
-
-    QString introspect(const QString&) const override { return {}; }
-    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
+                   const QString& detail = QString(), const QVariant& value = 0);
 
 private:
-    std::optional<QVariantList> answer(const FakeObject& object, const QDBusMessage& message) const;
-    QVariant references(const QList<QString>& paths) const;
+    QDBusMessage answer(const QDBusMessage& call) const;
+    QVariantList ownAnswer(const FakeObject& object, const QString& question,
+                           const QVariantList& arguments) const;
+    static QVariantList ofText(const FakeObject& object, const QString& question,
+                               const QVariantList& arguments);
+    QVariant references(const QStringList& paths) const;
 
     QDBusConnection connection_;
     mutable QMutex mutex_;
     QMap<QString, FakeObject> objects_;
-    std::optional<QList<QString>> searchAnswer_;
+    std::optional<QStringList> searchAnswer_;
+    Responder responder_;
 };
 
 } // namespace fakes

@@ -1,62 +1,41 @@
 #pragma once
 
+#include "platform/linux/PrivateBus.h"
 #include "platform/linux/atspi/FakeApplication.h"
 
-#include <QProcess>
-#include <QTemporaryDir>
-#include <QThread>
-
 #include <atomic>
-#include <memory>
-#include <vector>
 
 namespace fakes {
 
-/// A message bus of its own.
-class PrivateBus {
-public:
-    PrivateBus();
-    ~PrivateBus();
-
-    QString address() const { return address_; }
-    QDBusConnection connect() const;
-
-    /// A paused bus takes messages and passes none on.
-    void setPaused(bool paused);
-
-private:
-    QTemporaryDir folder_;
-    QProcess daemon_;
-    QString address_;
-};
-
-/// A session with an accessibility bus, its launcher and its registry, and the applications that a
-/// test puts there.
+/// A session with an application in it. One bus is the session's and that of accessibility, with
+/// the launcher and the registry on it.
 class FakeDesktop {
 public:
     FakeDesktop();
     ~FakeDesktop();
 
     QDBusConnection session() const { return session_; }
-    FakeApplication& addApplication();
-    void restartAccessibilityBus();
-    void stopAccessibilityBus();
-    void pauseAccessibilityBus(bool paused) { accessibilityBus_->setPaused(paused); }
+    void pauseBus(bool paused) { bus_.setPaused(paused); }
 
-    void setEnabled(bool enabled);
-    bool isEnabled() const;
+    /// Whether accessibility is switched on, by the test or by the program.
+    std::atomic<bool> isEnabled = true;
+    /// Whether the launcher knows a bus for accessibility.
+    std::atomic<bool> hasAccessibilityBus = true;
 
 private:
-    class Launcher;
-    class Registry;
+    QDBusMessage answer(const QDBusMessage& call);
 
+    PrivateBus bus_;
+    QDBusConnection session_ = bus_.connect();
+    QDBusConnection launcher_ = bus_.connect();
     QThread server_;
-    PrivateBus sessionBus_;
-    QDBusConnection session_;
-    std::unique_ptr<Launcher> launcher_;
-    std::unique_ptr<PrivateBus> accessibilityBus_;
-    std::unique_ptr<Registry> registry_;
-    std::vector<std::unique_ptr<FakeApplication>> applications_;
+
+public:
+    FakeApplication application{bus_.connect(), server_};
+
+private:
+    Responder services_{launcher_, server_,
+                        [this](const QDBusMessage& call) { return answer(call); }};
 };
 
 } // namespace fakes

@@ -1,103 +1,78 @@
 #include "platform/linux/atspi/AtSpiFixture.h"
 
-using fakes::FakeObject;
+using namespace Qt::StringLiterals;
 using platform::State;
 
 namespace {
 
 class FocusTest : public fakes::AtSpiFixture {
 protected:
-    FocusTest()
-        : application(desktop.addApplication()) {
-        FakeObject root;
-        root.children = {QStringLiteral("/other"), QStringLiteral("/window")};
-        application.set(QStringLiteral("root"), root);
-        FakeObject other;
-        other.children = {QStringLiteral("/elsewhere")};
-        application.set(QStringLiteral("/other"), other);
-        application.set(QStringLiteral("/elsewhere"),
-                        focusedText(QStringLiteral("elsewhere"), {{0, 9}}));
-        putIntoWindow({QStringLiteral("/panel")});
-        FakeObject panel;
-        panel.hasText = false;
-        panel.states = {State::Focused};
-        panel.children = {QStringLiteral("/text")};
-        application.set(QStringLiteral("/panel"), panel);
-        application.set(QStringLiteral("/text"), focusedText(QStringLiteral("text"), {{0, 4}}));
+    FocusTest() {
+        application.set(u"root"_s, {.children = {u"/other"_s, u"/window"_s}});
+        application.set(u"/other"_s, {.children = {u"/elsewhere"_s}});
+        application.set(u"/elsewhere"_s, focusedText(u"elsewhere"_s, {{0, 9}}));
+        putIntoWindow({u"/panel"_s});
+        application.set(u"/panel"_s,
+                        {.states = {State::Focused}, .hasText = false, .children = {u"/text"_s}});
+        application.set(u"/text"_s, focusedText(u"text"_s, {{0, 4}}));
         start();
     }
 
-    void putIntoWindow(const QList<QString>& children) {
-        FakeObject window;
-        window.hasText = false;
-        window.states = {State::Active};
-        window.children = children;
-        application.set(QStringLiteral("/window"), window);
+    void putIntoWindow(const QStringList& children, const QString& question = {}) {
+        application.set(u"/window"_s,
+                        {.states = {State::Active},
+                         .hasText = false,
+                         .children = children,
+                         .misbehaviours = {{question, fakes::answering({u"what?"_s})}}});
     }
-
-    fakes::FakeApplication& application;
 };
 
 TEST_F(FocusTest, OfSeveralHitsTheEditableTextIsMeant) {
-    FakeObject document;
-    document.states = {State::Focused};
-    application.set(QStringLiteral("/document"), document);
-    application.answerSearch(
-        {QStringLiteral("/panel"), QStringLiteral("/document"), QStringLiteral("/text")});
-    EXPECT_EQ(look().text, QStringLiteral("text"));
+    application.set(u"/document"_s, {.states = {State::Focused}});
+    application.answerSearch({u"/panel"_s, u"/document"_s, u"/text"_s});
+    EXPECT_EQ(look().text, u"text"_s);
 }
 
 TEST_F(FocusTest, WithoutSearchTheActiveWindowIsWalked) {
-    EXPECT_EQ(look().text, QStringLiteral("text"));
+    EXPECT_EQ(look().text, u"text"_s);
 }
 
 TEST_F(FocusTest, WithoutSearchTheFocusEventShowsTheWayWhereAWalkIsTooLong) {
-    QList<QString> many;
+    QStringList many;
     for (int index = 0; index < 150; ++index) {
-        many.push_back(QStringLiteral("/row%1").arg(index));
+        many.push_back(u"/row%1"_s.arg(index));
     }
-    FakeObject row;
-    row.children = many;
     for (const auto& path : many) {
-        application.set(path, row);
+        application.set(path, {.children = many});
     }
     putIntoWindow(many);
     EXPECT_FALSE(look().focused);
 
     // The walk is not taken a second time; what the event names is believed only after a look.
-    application.sendEvent(QStringLiteral("/row1"), QStringLiteral("Object"),
-                          QStringLiteral("StateChanged"), QStringLiteral("focused"), 1);
+    application.sendEvent(u"/row1"_s, u"Object"_s, u"StateChanged"_s, u"focused"_s, 1);
     fakes::Look again;
-    ASSERT_TRUE(eventually([&] { return (again = look()).calls > 0; }));
+    ASSERT_TRUE(fakes::eventually([&] { return (again = look()).calls > 0; }));
     EXPECT_FALSE(again.focused);
     EXPECT_LT(again.calls, 10);
 
-    application.sendEvent(QStringLiteral("/text"), QStringLiteral("Object"),
-                          QStringLiteral("StateChanged"), QStringLiteral("focused"), 1);
-    EXPECT_TRUE(eventually([this] { return look().text == QStringLiteral("text"); }));
+    application.sendEvent(u"/text"_s, u"Object"_s, u"StateChanged"_s, u"focused"_s, 1);
+    EXPECT_TRUE(fakes::eventually([this] { return look().text == u"text"_s; }));
 }
 
 TEST_F(FocusTest, TablesAreNotEntered) {
-    FakeObject table;
-    table.role = static_cast<unsigned>(platform::Role::Table);
-    table.children = {QStringLiteral("/text")};
-    application.set(QStringLiteral("/table"), table);
-    putIntoWindow({QStringLiteral("/table")});
+    application.set(u"/table"_s, {.role = static_cast<unsigned>(platform::Role::Table),
+                                  .children = {u"/text"_s}});
+    putIntoWindow({u"/table"_s});
     EXPECT_FALSE(look().focused);
 }
 
 TEST_F(FocusTest, WrongAnswersOnTheWay) {
-    const fakes::Misbehaviour wrong{fakes::Misbehaviour::Kind::Answer, {QStringLiteral("what?")}};
-    for (const auto* question : {u"GetChildren", u"GetMatches", u"GetState", u"ChildCount"}) {
-        FakeObject window;
-        window.states = {State::Active};
-        window.children = {QStringLiteral("/panel")};
-        window.misbehaviours.insert(QString::fromUtf16(question), wrong);
-        application.set(QStringLiteral("/window"), window);
-        accessibility.emplace(windows, desktop.session(), limits);
-        ASSERT_TRUE(accessibility->isProcessTrusted(platform::TrustPrompt::Hidden));
+    for (const auto& question :
+         {u"GetChildren"_s, u"GetMatches"_s, u"GetState"_s, u"ChildCount"_s}) {
+        putIntoWindow({u"/panel"_s}, question);
+        start();
         // Without a search the window is walked; without the rest nothing is found.
-        EXPECT_EQ(look().focused, question == std::u16string_view(u"GetMatches"));
+        EXPECT_EQ(look().focused, question == u"GetMatches");
     }
 }
 

@@ -1,7 +1,7 @@
 #include "platform/linux/atspi/AtSpiFixture.h"
 
+using namespace Qt::StringLiterals;
 using fakes::FakeObject;
-using fakes::Misbehaviour;
 using platform::Role;
 
 namespace {
@@ -12,98 +12,78 @@ constexpr auto staticText = static_cast<unsigned>(Role::Static);
 
 class SelectionTest : public fakes::AtSpiFixture {
 protected:
-    SelectionTest()
-        : application(desktop.addApplication()) {
-        start();
-    }
-
     std::optional<QString> textOf(const FakeObject& object) {
-        show(application, object);
-        accessibility.emplace(windows, desktop.session(), limits);
-        EXPECT_TRUE(accessibility->isProcessTrusted(platform::TrustPrompt::Hidden));
+        show(object);
+        start();
         return look().text;
     }
 
     void addChild(const QString& path, unsigned role, const QString& text,
-                  std::vector<std::pair<int, int>> selections, QList<QString> children = {}) {
-        FakeObject child;
-        child.role = role;
-        child.text = text;
-        child.selections = std::move(selections);
-        child.children = std::move(children);
-        application.set(path, child);
+                  std::vector<std::pair<int, int>> selections, QStringList children = {}) {
+        application.set(path, {.role = role,
+                               .children = std::move(children),
+                               .text = text,
+                               .selections = std::move(selections)});
     }
-
-    fakes::FakeApplication& application;
 };
 
 TEST_F(SelectionTest, PlainTexts) {
-    EXPECT_EQ(textOf(focusedText(QStringLiteral("one two"), {{4, 7}})), QStringLiteral("two"));
-    EXPECT_EQ(textOf(focusedText(QStringLiteral("one two"), {})), QString());
-    EXPECT_EQ(textOf(focusedText(QStringLiteral("one two"), {{3, 3}})), QString());
+    EXPECT_EQ(textOf(focusedText(u"one two"_s, {{4, 7}})), u"two"_s);
+    EXPECT_EQ(textOf(focusedText(u"one two"_s, {})), QString());
+    EXPECT_EQ(textOf(focusedText(u"one two"_s, {{3, 3}})), QString());
     // Some toolkits name the end first.
-    EXPECT_EQ(textOf(focusedText(QStringLiteral("one two"), {{7, 4}})), QStringLiteral("two"));
-    EXPECT_EQ(textOf(focusedText(QStringLiteral("one two"), {{0, 3}, {4, 7}})),
-              QStringLiteral("one\ntwo"));
+    EXPECT_EQ(textOf(focusedText(u"one two"_s, {{7, 4}})), u"two"_s);
+    EXPECT_EQ(textOf(focusedText(u"one two"_s, {{0, 3}, {4, 7}})), u"one\ntwo"_s);
 }
 
 TEST_F(SelectionTest, NothingOfWhatHoldsNoTextOrAPassword) {
-    auto object = focusedText(QStringLiteral("secret"), {{0, 6}});
+    auto object = focusedText(u"secret"_s, {{0, 6}});
     object.hasText = false;
     EXPECT_EQ(textOf(object), std::nullopt);
-
     object.hasText = true;
+    EXPECT_EQ(textOf(object), u"secret"_s);
+    // It turns into a password field while it is read.
     object.role = password;
+    application.set(u"/text"_s, object);
+    application.sendEvent(u"/text"_s, u"Object"_s, u"TextSelectionChanged"_s);
+    EXPECT_TRUE(fakes::eventually([this] { return look().text == std::nullopt; }));
     EXPECT_EQ(textOf(object), std::nullopt);
-}
-
-TEST_F(SelectionTest, AFieldThatTurnsIntoAPasswordFieldWhileItIsRead) {
-    auto object = focusedText(QStringLiteral("secret"), {{0, 6}});
-    EXPECT_EQ(textOf(object), QStringLiteral("secret"));
-
-    object.role = password;
-    application.set(QStringLiteral("/text"), object);
-    application.sendEvent(QStringLiteral("/text"), QStringLiteral("Object"),
-                          QStringLiteral("TextSelectionChanged"));
-    EXPECT_TRUE(eventually([this] { return look().text == std::nullopt; }));
 }
 
 TEST_F(SelectionTest, EmbeddedObjectsStandInTheirPlaces) {
     const auto hole = QString(QChar(0xFFFC));
     auto page = focusedText(hole + hole + hole, {{0, 3}});
-    page.children = {QStringLiteral("/first"), QStringLiteral("/login"), QStringLiteral("/second")};
-    addChild(QStringLiteral("/first"), paragraph,
-             QStringLiteral("See ") + hole + QStringLiteral(" there"), {{0, 11}},
-             {QStringLiteral("/before"), QStringLiteral("/link"), QStringLiteral("/after")});
-    addChild(QStringLiteral("/before"), staticText, QStringLiteral("See "), {{0, 4}});
-    addChild(QStringLiteral("/link"), 88, QStringLiteral("the page"), {{0, 8}});
-    addChild(QStringLiteral("/after"), staticText, QStringLiteral(" there"), {{0, 6}});
-    addChild(QStringLiteral("/login"), password, QStringLiteral("hunter2"), {{0, 7}});
-    addChild(QStringLiteral("/second"), paragraph, QStringLiteral("Second one"), {{0, 6}});
+    page.children = {u"/first"_s, u"/login"_s, u"/second"_s};
+    addChild(u"/first"_s, paragraph, u"See "_s + hole + u" there"_s, {{0, 11}},
+             {u"/before"_s, u"/link"_s, u"/after"_s});
+    addChild(u"/before"_s, staticText, u"See "_s, {{0, 4}});
+    addChild(u"/link"_s, 88, u"the page"_s, {{0, 8}});
+    addChild(u"/after"_s, staticText, u" there"_s, {{0, 6}});
+    addChild(u"/login"_s, password, u"hunter2"_s, {{0, 7}});
+    addChild(u"/second"_s, paragraph, u"Second one"_s, {{0, 6}});
 
-    EXPECT_EQ(textOf(page), QStringLiteral("See the page there\nSecond"));
+    EXPECT_EQ(textOf(page), u"See the page there\nSecond"_s);
 }
 
 TEST_F(SelectionTest, ObjectsThatContainThemselvesEnd) {
     auto page = focusedText(QString(QChar(0xFFFC)), {{0, 1}});
-    page.children = {QStringLiteral("/text")};
+    page.children = {u"/text"_s};
     EXPECT_EQ(textOf(page), QString());
 }
 
 TEST_F(SelectionTest, ParagraphsAreJoinedAcrossEmptyOnes) {
-    auto first = focusedText(QStringLiteral("First."), {{2, 6}});
+    auto first = focusedText(u"First."_s, {{2, 6}});
     first.role = paragraph;
-    show(application, first);
-    FakeObject window;
-    window.states = {platform::State::Active};
-    window.children = {QStringLiteral("/text"), QStringLiteral("/empty"), QStringLiteral("/third"),
-                       QStringLiteral("/fourth")};
-    addChild(QStringLiteral("/empty"), paragraph, QString(), {});
-    addChild(QStringLiteral("/third"), paragraph, QStringLiteral("Third."), {{0, 3}});
-    addChild(QStringLiteral("/fourth"), paragraph, QStringLiteral("Fourth."), {});
-    application.set(QStringLiteral("/window"), window);
+    show(first);
+    application.set(u"/window"_s,
+                    {.states = {platform::State::Active},
+                     .children = {u"/text"_s, u"/empty"_s, u"/third"_s, u"/fourth"_s}});
+    addChild(u"/empty"_s, paragraph, QString(), {});
+    addChild(u"/third"_s, paragraph, u"Third."_s, {{0, 3}});
+    addChild(u"/fourth"_s, paragraph, u"Fourth."_s, {});
 
-    EXPECT_EQ(look().text, QStringLiteral("rst.\nThi"));
+    start();
+    EXPECT_EQ(look().text, u"rst.\nThi"_s);
 }
 
 TEST_F(SelectionTest, OfAVeryLongTextTheEndsAreRead) {
@@ -117,30 +97,27 @@ TEST_F(SelectionTest, OfAVeryLongTextTheEndsAreRead) {
 }
 
 TEST_F(SelectionTest, WrongAnswersYieldNothing) {
-    const auto good = focusedText(QStringLiteral("one two"), {{4, 7}});
-    for (const auto* question : {u"GetInterfaces", u"GetRole", u"GetNSelections", u"GetSelection",
-                                 u"GetText", u"GetState"}) {
-        for (const auto& answer :
-             {QVariantList(), QVariantList{QStringList{QStringLiteral("x")}},
-              QVariantList{QVariant::fromValue(
-                  platform::ObjectReference{application.service(), QStringLiteral("/text")})},
-              QVariantList{4.5}, QVariantList{QVariant::fromValue(QList<int>{1, 2})}}) {
-            auto object = good;
-            const auto name = QString::fromUtf16(question);
-            object.misbehaviours.insert(name, {Misbehaviour::Kind::Answer, answer});
-            EXPECT_EQ(textOf(object), std::nullopt) << name.toStdString();
+    auto object = focusedText(u"one two"_s, {{4, 7}});
+    const std::vector<fakes::Misbehaviour> wrong{
+        fakes::refusal,
+        fakes::answering({}),
+        fakes::answering({QStringList{u"x"_s}}),
+        fakes::answering({QVariant::fromValue(application.reference(u"/text"_s))}),
+        fakes::answering({4.5}),
+        fakes::answering({QVariant::fromValue(QList<int>{1, 2})})};
+    for (const auto& question : {u"GetInterfaces"_s, u"GetRole"_s, u"GetNSelections"_s,
+                                 u"GetSelection"_s, u"GetText"_s, u"GetState"_s}) {
+        for (const auto& answer : wrong) {
+            object.misbehaviours = {{question, answer}};
+            EXPECT_EQ(textOf(object), std::nullopt) << question.toStdString();
         }
-        auto object = good;
-        object.misbehaviours.insert(QString::fromUtf16(question), {Misbehaviour::Kind::Error, {}});
-        EXPECT_EQ(textOf(object), std::nullopt);
     }
 }
 
 TEST_F(SelectionTest, ASelectionThatIsNoneIsSkipped) {
-    EXPECT_EQ(textOf(focusedText(QStringLiteral("one"), {{-1, -1}})), QString());
-    auto object = focusedText(QStringLiteral("one"), {{0, 3}});
-    object.misbehaviours.insert(QStringLiteral("GetNSelections"),
-                                {Misbehaviour::Kind::Answer, {-7}});
+    EXPECT_EQ(textOf(focusedText(u"one"_s, {{-1, -1}})), QString());
+    auto object = focusedText(u"one"_s, {{0, 3}});
+    object.misbehaviours[u"GetNSelections"_s] = fakes::answering({-7});
     EXPECT_EQ(textOf(object), QString());
 }
 

@@ -1,12 +1,15 @@
 #include "platform/linux/freedesktop/StatusNotifierHost.h"
 
 #include "PrivateBus.h"
+#include "fakes/Eventually.h"
 
 #include <QElapsedTimer>
 #include <gtest/gtest.h>
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+using fakes::eventually;
 using platform::StatusNotifierHost;
 
 namespace {
@@ -22,9 +25,9 @@ public:
         : hasHost_(hostRegistered)
         , bus_(bus)
         , connection_(bus.connect()) {
-        connection_.registerObject(QStringLiteral("/StatusNotifierWatcher"), this,
+        connection_.registerObject(u"/StatusNotifierWatcher"_s, this,
                                    QDBusConnection::ExportAllContents);
-        connection_.registerService(QStringLiteral("org.kde.StatusNotifierWatcher"));
+        connection_.registerService(u"org.kde.StatusNotifierWatcher"_s);
     }
     ~Watcher() override { bus_.disconnect(connection_); }
 
@@ -32,13 +35,9 @@ public:
         ++questions;
         return hasHost_;
     }
-    void registerHost() {
-        hasHost_ = true;
-        Q_EMIT StatusNotifierHostRegistered();
-    }
-    void unregisterHost() {
-        hasHost_ = false;
-        Q_EMIT StatusNotifierHostUnregistered();
+    void setHost(bool registered) {
+        hasHost_ = registered;
+        registered ? StatusNotifierHostRegistered() : StatusNotifierHostUnregistered();
     }
 
     mutable int questions = 0;
@@ -53,47 +52,32 @@ private:
     QDBusConnection connection_;
 };
 
-class StatusNotifierHostTest : public testing::Test {
-protected:
-    fakes::PrivateBus bus;
-
-    testing::AssertionResult becomes(const StatusNotifierHost& host, bool there) {
-        return fakes::waitUntil([&] { return host.isThere() == there; })
-                   ? testing::AssertionSuccess()
-                   : testing::AssertionFailure() << "still " << host.isThere();
-    }
-};
-
 } // namespace
 
-TEST_F(StatusNotifierHostTest, AHostThatIsThereIsFoundWithoutWaitingForTheAnswer) {
-    const Watcher watcher(bus, true);
+TEST(StatusNotifierHost, AWatcherAndAHostMayComeLateAndGoAgain) {
+    fakes::PrivateBus bus;
     StatusNotifierHost host(bus.connect());
-    EXPECT_FALSE(host.isThere());
     int changes = 0;
     const auto observer = host.observe([&] { ++changes; });
-    EXPECT_TRUE(becomes(host, true));
-    EXPECT_EQ(changes, 1);
-}
-
-TEST_F(StatusNotifierHostTest, AWatcherAndAHostMayComeLateAndGoAgain) {
-    StatusNotifierHost host(bus.connect());
+    const auto becomes = [&](bool there) {
+        return eventually([&] { return host.isThere() == there; });
+    };
     auto watcher = std::make_unique<Watcher>(bus, false);
-    ASSERT_TRUE(fakes::waitUntil([&] { return watcher->questions > 0; }));
+    ASSERT_TRUE(eventually([&] { return watcher->questions > 0; }));
     EXPECT_FALSE(host.isThere());
-    watcher->registerHost();
-    EXPECT_TRUE(becomes(host, true));
-    watcher->unregisterHost();
-    EXPECT_TRUE(becomes(host, false));
-    watcher->registerHost();
-    EXPECT_TRUE(becomes(host, true));
+    for (const bool there : {true, false, true}) {
+        watcher->setHost(there);
+        EXPECT_TRUE(becomes(there)) << there;
+    }
     watcher.reset();
-    EXPECT_TRUE(becomes(host, false));
+    EXPECT_TRUE(becomes(false));
     watcher = std::make_unique<Watcher>(bus, true);
-    EXPECT_TRUE(becomes(host, true));
+    EXPECT_TRUE(becomes(true));
+    EXPECT_EQ(changes, 5);
 }
 
-TEST_F(StatusNotifierHostTest, ABusThatStandsStillHoldsNobodyUp) {
+TEST(StatusNotifierHost, ABusThatStandsStillHoldsNobodyUp) {
+    fakes::PrivateBus bus;
     const auto connection = bus.connect();
     bus.setPaused(true);
     QElapsedTimer timer;
@@ -103,8 +87,8 @@ TEST_F(StatusNotifierHostTest, ABusThatStandsStillHoldsNobodyUp) {
     bus.setPaused(false);
 }
 
-TEST_F(StatusNotifierHostTest, WithoutABusThereIsNoHost) {
-    const StatusNotifierHost host(QDBusConnection(QStringLiteral("no such connection")));
+TEST(StatusNotifierHost, WithoutABusThereIsNoHost) {
+    const StatusNotifierHost host(QDBusConnection(u"no such connection"_s));
     EXPECT_FALSE(host.isThere());
 }
 

@@ -27,7 +27,7 @@ private:
 };
 
 struct Desktop {
-    explicit Desktop(bool statusNotifierThere, bool xembedThere)
+    Desktop(bool statusNotifierThere, bool xembedThere)
         : statusNotifier(statusNotifierThere)
         , xembed(xembedThere) {}
 
@@ -40,17 +40,13 @@ struct Desktop {
 
 } // namespace
 
-TEST(TrayArrival, AHostThatIsThereGetsTheIconAtOnce) {
-    const Desktop desktop(true, true);
-    EXPECT_EQ(desktop.icons, 1);
-}
-
-TEST(TrayArrival, ALateHostGetsTheIconWhenItComes) {
-    Desktop desktop(false, false);
-    desktop.runLoop.advance(3600);
-    EXPECT_EQ(desktop.icons, 0);
-    desktop.statusNotifier.set(true);
-    EXPECT_EQ(desktop.icons, 1);
+TEST(TrayArrival, AHostGetsTheIconAtOnceHoweverLateItComes) {
+    EXPECT_EQ(Desktop(true, true).icons, 1);
+    Desktop late(false, false);
+    late.runLoop.advance(3600);
+    EXPECT_EQ(late.icons, 0);
+    late.statusNotifier.set(true);
+    EXPECT_EQ(late.icons, 1);
 }
 
 TEST(TrayArrival, SaysOnceThatThereIsNoTray) {
@@ -66,30 +62,23 @@ TEST(TrayArrival, SaysOnceThatThereIsNoTray) {
               "Quillet: no tray to show the menu in; the icon appears once there is one\n");
 }
 
-TEST(TrayArrival, AHostThatComesSoonAfterTheOlderTrayWins) {
-    Desktop desktop(false, true);
-    desktop.runLoop.advance(1.9);
-    EXPECT_EQ(desktop.icons, 0);
-    desktop.statusNotifier.set(true);
-    EXPECT_EQ(desktop.icons, 1);
-}
-
-TEST(TrayArrival, TheOlderTrayGetsTheIconAfterAWhile) {
-    Desktop desktop(false, false);
-    desktop.runLoop.advance(10);
-    desktop.xembed.set(true);
-    desktop.runLoop.advance(1.9);
-    EXPECT_EQ(desktop.icons, 0);
-    desktop.runLoop.advance(0.1);
-    EXPECT_EQ(desktop.icons, 1);
-}
-
-TEST(TrayArrival, AnOlderTrayThatGoesAgainGetsNothing) {
-    Desktop desktop(false, true);
-    desktop.runLoop.advance(1.9);
-    desktop.xembed.set(false);
-    desktop.runLoop.advance(10);
-    EXPECT_EQ(desktop.icons, 0);
+TEST(TrayArrival, TheOlderTrayGetsTheIconAfterAWhileUnlessAHostComesOrItGoesMeanwhile) {
+    const auto iconsAfter = [](const std::function<void(Desktop&)>& meanwhile) {
+        Desktop desktop(false, false);
+        desktop.runLoop.advance(10);
+        desktop.xembed.set(true);
+        desktop.runLoop.advance(1.9);
+        EXPECT_EQ(desktop.icons, 0);
+        meanwhile(desktop);
+        return desktop.icons;
+    };
+    EXPECT_EQ(iconsAfter([](Desktop& desktop) { desktop.runLoop.advance(0.1); }), 1);
+    EXPECT_EQ(iconsAfter([](Desktop& desktop) { desktop.statusNotifier.set(true); }), 1);
+    EXPECT_EQ(iconsAfter([](Desktop& desktop) {
+                  desktop.xembed.set(false);
+                  desktop.runLoop.advance(10);
+              }),
+              0);
 }
 
 TEST(TrayArrival, WhateverComesLaterThereAreNeverTwoIcons) {
