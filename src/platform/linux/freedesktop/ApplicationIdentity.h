@@ -11,15 +11,15 @@ namespace platform {
 
 /// What a window and its process say about the application to which they belong.
 struct ApplicationClues {
-    QString gtkApplicationId;
-    QString kdeDesktopFile;
-    QString bamfDesktopFile;
-    QString windowClass;
-    QString windowInstance;
+    QString gtkApplicationId = {};
+    QString kdeDesktopFile = {};
+    QString bamfDesktopFile = {};
+    QString windowClass = {};
+    QString windowInstance = {};
     /// File names of the program that the process runs.
-    QStringList programs;
+    QStringList programs = {};
     /// The control group in which the session manager started the process.
-    QString controlGroup;
+    QString controlGroup = {};
 };
 
 /// The application for which these clues speak: the first clue counts that names an application

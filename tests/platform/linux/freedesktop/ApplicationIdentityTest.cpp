@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace platform {
 
 namespace {
@@ -31,68 +33,50 @@ const DesktopEntryTable& installed() {
     return table;
 }
 
-struct Row {
-    const char* what;
-    ApplicationClues clues;
-    const char* identifier; // null: none
-};
-
-ApplicationClues windowClass(const char* name, const char* instance = "") {
-    ApplicationClues clues;
-    clues.windowClass = QString::fromLatin1(name);
-    clues.windowInstance = QString::fromLatin1(instance);
-    return clues;
-}
-
-ApplicationClues with(ApplicationClues clues, QString ApplicationClues::*clue, const char* value) {
-    clues.*clue = QString::fromLatin1(value);
-    return clues;
-}
-
-ApplicationClues running(ApplicationClues clues, const QStringList& programs) {
-    clues.programs = programs;
-    return clues;
-}
-
 } // namespace
 
 TEST(ApplicationIdentity, TheFirstClueThatNamesAnInstalledApplicationCounts) {
-    const std::vector<Row> rows{
+    const struct {
+        const char* what;
+        ApplicationClues clues;
+        std::optional<QString> identifier;
+    } rows[]{
         {"GTK application id",
-         with(windowClass("Other"), &ApplicationClues::gtkApplicationId, "org.gnome.Gnote"),
-         "org.gnome.Gnote"},
+         {.gtkApplicationId = u"org.gnome.Gnote"_s, .windowClass = u"Other"_s},
+         u"org.gnome.Gnote"_s},
         {"GTK application id for which no file exists",
-         with(windowClass("libreoffice-writer"), &ApplicationClues::gtkApplicationId,
-              "org.libreoffice"),
-         "libreoffice-writer"},
+         {.gtkApplicationId = u"org.libreoffice"_s, .windowClass = u"libreoffice-writer"_s},
+         u"libreoffice-writer"_s},
         {"KDE desktop file, with suffix",
-         with(windowClass("x"), &ApplicationClues::kdeDesktopFile, "org.kde.kate.desktop"),
-         "org.kde.kate"},
+         {.kdeDesktopFile = u"org.kde.kate.desktop"_s, .windowClass = u"x"_s},
+         u"org.kde.kate"_s},
         {"BAMF desktop file, a path",
-         with(windowClass("x"), &ApplicationClues::bamfDesktopFile,
-              "/usr/share/applications/chromium.desktop"),
-         "chromium"},
-        {"StartupWMClass is the class, in other case", windowClass("kate-editor"), "org.kde.kate"},
-        {"StartupWMClass is the instance", windowClass("x", "chromium"), "chromium"},
-        {"class is the id", windowClass("Weather"), "weather"},
-        {"class is the last part of the id", windowClass("Gedit", "gedit"), "org.gnome.gedit"},
-        {"program", running(windowClass("x"), {QStringLiteral("my-weather")}), "weather"},
+         {.bamfDesktopFile = u"/usr/share/applications/chromium.desktop"_s, .windowClass = u"x"_s},
+         u"chromium"_s},
+        {"StartupWMClass is the class, in other case",
+         {.windowClass = u"kate-editor"_s},
+         u"org.kde.kate"_s},
+        {"StartupWMClass is the instance",
+         {.windowClass = u"x"_s, .windowInstance = u"chromium"_s},
+         u"chromium"_s},
+        {"class is the id", {.windowClass = u"Weather"_s}, u"weather"_s},
+        {"class is the last part of the id", {.windowClass = u"Gedit"_s}, u"org.gnome.gedit"_s},
+        {"program", {.windowClass = u"x"_s, .programs = {u"my-weather"_s}}, u"weather"_s},
         {"program of two entries: the one that is listed",
-         running(windowClass("x"), {QStringLiteral("mailer")}), "mail"},
+         {.windowClass = u"x"_s, .programs = {u"mailer"_s}},
+         u"mail"_s},
         {"a terminal program has no window",
-         running(windowClass("x"), {QStringLiteral("python3.11")}), "x"},
+         {.windowClass = u"x"_s, .programs = {u"python3.11"_s}},
+         u"x"_s},
         {"control group",
-         with(windowClass("x"), &ApplicationClues::controlGroup, "app-gnome-org.kde.kate-77.scope"),
-         "org.kde.kate"},
-        {"nothing installed: the class", windowClass("XTerm", "xterm"), "XTerm"},
-        {"nothing known", windowClass("", "instance"), nullptr},
+         {.windowClass = u"x"_s, .controlGroup = u"app-gnome-org.kde.kate-77.scope"_s},
+         u"org.kde.kate"_s},
+        {"nothing installed: the class", {.windowClass = u"XTerm"_s}, u"XTerm"_s},
+        {"nothing known", {.windowInstance = u"instance"_s}, std::nullopt},
     };
     for (const auto& row : rows) {
-        const auto identifier =
-            applicationIdentifier(row.clues, findApplication(row.clues, installed()));
-        EXPECT_EQ(identifier, row.identifier == nullptr
-                                  ? std::nullopt
-                                  : std::optional(QString::fromLatin1(row.identifier)))
+        EXPECT_EQ(applicationIdentifier(row.clues, findApplication(row.clues, installed())),
+                  row.identifier)
             << row.what;
     }
 }
@@ -116,14 +100,11 @@ TEST(RunningProcess, AnInterpretersScriptIsTheProgram) {
             .toStdString();
     };
     EXPECT_EQ(names("/usr/lib/libreoffice/program/soffice.bin",
-                    {QStringLiteral("/usr/lib/libreoffice/program/soffice.bin")}),
+                    {u"/usr/lib/libreoffice/program/soffice.bin"_s}),
               "soffice.bin");
-    EXPECT_EQ(names("/usr/bin/notes (deleted)", {QStringLiteral("notes-launcher")}),
-              "notes notes-launcher");
-    EXPECT_EQ(names("/usr/bin/python3.11", {QStringLiteral("python3"), QStringLiteral("-u"),
-                                            QStringLiteral("/opt/notes")}),
-              "notes");
-    EXPECT_EQ(names("/usr/bin/bash", {QStringLiteral("-bash")}), "");
+    EXPECT_EQ(names("/usr/bin/notes (deleted)", {u"notes-launcher"_s}), "notes notes-launcher");
+    EXPECT_EQ(names("/usr/bin/python3.11", {u"python3"_s, u"-u"_s, u"/opt/notes"_s}), "notes");
+    EXPECT_EQ(names("/usr/bin/bash", {u"-bash"_s}), "");
     EXPECT_EQ(names("", {}), "");
 }
 
@@ -134,23 +115,22 @@ TEST(DesktopEntryTable, OfOneIdTheFirstEntryCountsAndAHiddenOneHidesTheRest) {
     const DesktopEntryTable table({hidden, link, entry("mail", "Name=the user's\n"),
                                    entry("notes", ""), entry("page", ""),
                                    entry("mail", "Name=the system's\n")});
-    EXPECT_EQ(table.withId(QStringLiteral("notes")), nullptr);
-    EXPECT_EQ(table.withId(QStringLiteral("page")), nullptr);
-    EXPECT_EQ(table.withId(QStringLiteral("mail.desktop"))->name, QStringLiteral("the user's"));
+    EXPECT_EQ(table.withId(u"notes"_s), nullptr);
+    EXPECT_EQ(table.withId(u"page"_s), nullptr);
+    EXPECT_EQ(table.withId(u"mail.desktop"_s)->name, u"the user's"_s);
     EXPECT_EQ(table.withId(QString()), nullptr);
-    EXPECT_EQ(desktopFileId(QStringLiteral("vendor/tools/mail.desktop")),
-              QStringLiteral("vendor-tools-mail"));
+    EXPECT_EQ(desktopFileId(u"vendor/tools/mail.desktop"_s), u"vendor-tools-mail"_s);
 }
 
 TEST(AccessibilitySettings, OnlyTheRunningDesktopsOwnAreOffered) {
     const DesktopEntryTable table(
         {entry("gnome-universal-access-panel", "NoDisplay=true\nOnlyShowIn=GNOME;\n"),
          entry("xfce4-accessibility-settings", "OnlyShowIn=XFCE;\nExec=no-such-program-here\n")});
-    const auto* found = accessibilitySettings(table, {QStringLiteral("XFCE")});
+    const auto* found = accessibilitySettings(table, {u"XFCE"_s});
     ASSERT_NE(found, nullptr);
-    EXPECT_EQ(found->id, QStringLiteral("xfce4-accessibility-settings"));
+    EXPECT_EQ(found->id, u"xfce4-accessibility-settings"_s);
     EXPECT_FALSE(startDetached(*found));
-    EXPECT_EQ(accessibilitySettings(table, {QStringLiteral("KDE")}), nullptr);
+    EXPECT_EQ(accessibilitySettings(table, {u"KDE"_s}), nullptr);
 }
 
 } // namespace platform

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
 using platform::DesktopApplicationBundles;
 
 namespace {
@@ -24,20 +25,17 @@ protected:
 
     /// An entry with a name and the given further keys.
     QString entry(const QString& folder, const QByteArray& keys,
-                  const QString& name = QStringLiteral("org.example.Notes.desktop")) {
+                  const QString& name = u"org.example.Notes.desktop"_s) {
         return write(folder, name,
                      "[Desktop Entry]\nType=Application\nName=Notes\nExec=true\n" + keys);
     }
 
-    bool lists(const QByteArray& keys) { return bundles.bundle(entry(system, keys)).has_value(); }
-
     QTemporaryDir root;
-    const QString local = root.filePath(QStringLiteral("local"));
-    const QString system = root.filePath(QStringLiteral("system"));
-    const QString user = root.filePath(QStringLiteral("user"));
-    DesktopApplicationBundles bundles{{{local, system}, user},
-                                      {QStringLiteral("de_AT"), QStringLiteral("de")},
-                                      {QStringLiteral("GNOME"), QStringLiteral("XFCE")}};
+    const QString local = root.filePath(u"local"_s);
+    const QString system = root.filePath(u"system"_s);
+    const QString user = root.filePath(u"user"_s);
+    DesktopApplicationBundles bundles{
+        {{local, system}, user}, {u"de_AT"_s, u"de"_s}, {u"GNOME"_s, u"XFCE"_s}};
 };
 
 } // namespace
@@ -45,28 +43,26 @@ protected:
 TEST_F(DesktopApplicationBundlesTest, AnEntryIsKnownByItsFileNameAndItsNameInTheUsersLanguage) {
     const auto bundle = bundles.bundle(entry(system, "Name[de]=Notizen\nName[fr]=Carnets\n"));
     ASSERT_TRUE(bundle);
-    EXPECT_EQ(bundle->bundleIdentifier, QStringLiteral("org.example.Notes"));
-    EXPECT_EQ(bundle->name, QStringLiteral("Notizen"));
+    EXPECT_EQ(bundle->bundleIdentifier, u"org.example.Notes"_s);
+    EXPECT_EQ(bundle->name, u"Notizen"_s);
     EXPECT_EQ(bundle->displayName, std::nullopt);
 }
 
 TEST_F(DesktopApplicationBundlesTest, ListsWhatTheDesktopLists) {
-    EXPECT_TRUE(lists(""));
-    EXPECT_TRUE(lists("OnlyShowIn=KDE;XFCE;\n"));
-    EXPECT_TRUE(lists("NotShowIn=KDE;\nNoDisplay=false\n"));
-    EXPECT_TRUE(lists("TryExec=sh\n"));
-    EXPECT_TRUE(lists("TryExec=/bin/sh\n"));
-    EXPECT_FALSE(lists("NoDisplay=true\n"));
-    EXPECT_FALSE(lists("Hidden=true\n"));
-    EXPECT_FALSE(lists("OnlyShowIn=KDE;\n"));
-    EXPECT_FALSE(lists("NotShowIn=GNOME;\n"));
-    EXPECT_FALSE(lists("TryExec=no-such-program-anywhere\n"));
-    EXPECT_FALSE(lists("TryExec=/etc/passwd\n"));
+    for (const char* keys : {"", "OnlyShowIn=KDE;XFCE;\n", "NotShowIn=KDE;\nNoDisplay=false\n",
+                             "TryExec=sh\n", "TryExec=/bin/sh\n"}) {
+        EXPECT_TRUE(bundles.bundle(entry(system, keys))) << keys;
+    }
+    for (const char* keys :
+         {"NoDisplay=true\n", "Hidden=true\n", "OnlyShowIn=KDE;\n", "NotShowIn=GNOME;\n",
+          "TryExec=no-such-program-anywhere\n", "TryExec=/etc/passwd\n"}) {
+        EXPECT_FALSE(bundles.bundle(entry(system, keys))) << keys;
+    }
 }
 
 TEST_F(DesktopApplicationBundlesTest, WhatIsNoEntryIsSkipped) {
     const auto at = [&](const QByteArray& contents) {
-        return bundles.bundle(write(system, QStringLiteral("a.desktop"), contents));
+        return bundles.bundle(write(system, u"a.desktop"_s, contents));
     };
     EXPECT_FALSE(at(""));
     EXPECT_FALSE(at("Type=Application\nName=No group\n"));
@@ -77,28 +73,26 @@ TEST_F(DesktopApplicationBundlesTest, WhatIsNoEntryIsSkipped) {
     EXPECT_EQ(at("[Desktop Entry]\nType=Application\n")->name, std::nullopt);
     EXPECT_EQ(at("[Desktop Entry]\nType=Application\nName=\xff\xfe\n")->name, std::nullopt);
 
-    QDir().mkpath(system + QStringLiteral("/folder.desktop"));
-    QFile::link(QStringLiteral("loop.desktop"), system + QStringLiteral("/loop.desktop"));
-    ASSERT_EQ(mkfifo(qPrintable(system + QStringLiteral("/pipe.desktop")), 0600), 0);
+    QDir().mkpath(system + u"/folder.desktop"_s);
+    QFile::link(u"loop.desktop"_s, system + u"/loop.desktop"_s);
+    ASSERT_EQ(mkfifo(qPrintable(system + u"/pipe.desktop"_s), 0600), 0);
     for (const char* name : {"folder", "loop", "pipe", "missing"}) {
-        const QString path =
-            system + QLatin1Char('/') + QLatin1String(name) + QStringLiteral(".desktop");
+        const QString path = system + QLatin1Char('/') + QLatin1String(name) + u".desktop"_s;
         EXPECT_FALSE(bundles.bundle(path)) << name;
         EXPECT_FALSE(bundles.iconForFile(path)) << name;
     }
-    EXPECT_FALSE(bundles.bundle(QStringLiteral(".desktop")));
+    EXPECT_FALSE(bundles.bundle(u".desktop"_s));
 }
 
 TEST_F(DesktopApplicationBundlesTest, FoldersOfTheSystemComeFirstAndAreReadOneLevelDeep) {
     EXPECT_EQ(bundles.folders(), (QStringList{local, system, user}));
     entry(system, "");
-    entry(system + QStringLiteral("/vendor"), "");
+    entry(system + u"/vendor"_s, "");
     auto entries = bundles.entries(system);
     entries.sort();
-    EXPECT_EQ(entries,
-              (QStringList{QStringLiteral("org.example.Notes.desktop"), QStringLiteral("vendor")}));
+    EXPECT_EQ(entries, (QStringList{u"org.example.Notes.desktop"_s, u"vendor"_s}));
     EXPECT_TRUE(bundles.entries(user).isEmpty());
-    EXPECT_EQ(bundles.suffix(), QStringLiteral(".desktop"));
+    EXPECT_EQ(bundles.suffix(), u".desktop"_s);
 }
 
 TEST_F(DesktopApplicationBundlesTest, AnEntryThatIsHiddenHidesThoseThatCountLess) {
@@ -107,7 +101,7 @@ TEST_F(DesktopApplicationBundlesTest, AnEntryThatIsHiddenHidesThoseThatCountLess
     const QString ofUser = entry(user, "Name[de]=Meine Notizen\n");
     EXPECT_TRUE(bundles.bundle(ofSystem));
     EXPECT_TRUE(bundles.bundle(ofUser));
-    write(user, QStringLiteral("org.example.Notes.desktop"), "nothing");
+    write(user, u"org.example.Notes.desktop"_s, "nothing");
     EXPECT_TRUE(bundles.bundle(ofSystem));
 
     for (const char* keys : {"Hidden=true\n", "NoDisplay=true\n", "OnlyShowIn=KDE;\n"}) {
@@ -123,12 +117,11 @@ TEST_F(DesktopApplicationBundlesTest, AnEntryThatIsHiddenHidesThoseThatCountLess
 
 TEST_F(DesktopApplicationBundlesTest, AnIconIsANameOrAPath) {
     const QString notes = entry(system, "Icon=notes\n");
-    const QString mail =
-        entry(system, "Icon=/usr/share/mail.png\n", QStringLiteral("mail.desktop"));
+    const QString mail = entry(system, "Icon=/usr/share/mail.png\n", u"mail.desktop"_s);
     ASSERT_TRUE(bundles.bundle(notes));
     ASSERT_TRUE(bundles.bundle(mail));
-    EXPECT_EQ(bundles.iconForFile(notes)->nameOrPath, QStringLiteral("notes"));
-    EXPECT_EQ(bundles.iconForFile(mail)->nameOrPath, QStringLiteral("/usr/share/mail.png"));
+    EXPECT_EQ(bundles.iconForFile(notes)->nameOrPath, u"notes"_s);
+    EXPECT_EQ(bundles.iconForFile(mail)->nameOrPath, u"/usr/share/mail.png"_s);
     ASSERT_TRUE(bundles.bundle(entry(system, "")));
     EXPECT_EQ(bundles.iconForFile(notes), std::nullopt);
 }

@@ -9,6 +9,8 @@
 
 #include <filesystem>
 
+using namespace Qt::StringLiterals;
+
 namespace platform {
 
 namespace {
@@ -36,15 +38,15 @@ protected:
     QTemporaryDir folder_;
     int changes_ = 0;
     fakes::VirtualRunLoop runLoop_;
-    DesktopEntryIndex index_{runLoop_, {folder_.path(), QStringLiteral("/no/such/folder")}, {}};
+    DesktopEntryIndex index_{runLoop_, {folder_.path(), u"/no/such/folder"_s}, {}};
 };
 
 } // namespace
 
 TEST_F(DesktopEntryIndexTest, ReadsInTheBackgroundAtFirstUse) {
-    install(QStringLiteral("notes.desktop"));
-    install(QStringLiteral("vendor/mail.desktop"));
-    install(QStringLiteral("text.txt"));
+    install(u"notes.desktop"_s);
+    install(u"vendor/mail.desktop"_s);
+    install(u"text.txt"_s);
     int changes = 0;
     const auto registration = index_.addChangeHandler([&changes] { ++changes; });
     EXPECT_EQ(index_.current(), nullptr);
@@ -59,16 +61,16 @@ TEST_F(DesktopEntryIndexTest, ReadsInTheBackgroundAtFirstUse) {
 }
 
 TEST_F(DesktopEntryIndexTest, ReadsAgainWhenAFolderChangedAndAnswersMeanwhile) {
-    install(QStringLiteral("notes.desktop"));
+    install(u"notes.desktop"_s);
     index_.current();
     runLoop_.finishBackgroundWork();
-    install(QStringLiteral("mail.desktop"));
+    install(u"mail.desktop"_s);
     EXPECT_FALSE(knows("mail"));
     EXPECT_TRUE(knows("notes"));
     runLoop_.finishBackgroundWork();
     EXPECT_TRUE(knows("mail"));
-    QFile::remove(folder_.filePath(QStringLiteral("notes.desktop")));
-    install(QStringLiteral("mail.desktop"), "Hidden=true\n");
+    QFile::remove(folder_.filePath(u"notes.desktop"_s));
+    install(u"mail.desktop"_s, "Hidden=true\n");
     index_.current();
     runLoop_.finishBackgroundWork();
     EXPECT_FALSE(knows("notes"));
@@ -76,8 +78,8 @@ TEST_F(DesktopEntryIndexTest, ReadsAgainWhenAFolderChangedAndAnswersMeanwhile) {
 }
 
 TEST_F(DesktopEntryIndexTest, WhoCannotWaitForTheMainThreadReadsAtOnce) {
-    install(QStringLiteral("notes.desktop"));
-    EXPECT_NE(index_.wait()->withId(QStringLiteral("notes")), nullptr);
+    install(u"notes.desktop"_s);
+    EXPECT_NE(index_.wait()->withId(u"notes"_s), nullptr);
     EXPECT_EQ(index_.current(), nullptr);
 }
 
@@ -96,13 +98,13 @@ TEST(ApplicationFolders, FollowTheEnvironmentAndItsDefaults) {
     qputenv("XDG_DATA_DIRS", "/opt/share/:relative:/usr/share:/opt/share");
     qputenv("XDG_DATA_HOME", "relative");
     const auto folders = ApplicationFolders::fromEnvironment();
-    EXPECT_EQ(folders.system, (QStringList{QStringLiteral("/opt/share/applications"),
-                                           QStringLiteral("/usr/share/applications")}));
-    EXPECT_EQ(folders.user, QDir::homePath() + QStringLiteral("/.local/share/applications"));
+    EXPECT_EQ(folders.system,
+              (QStringList{u"/opt/share/applications"_s, u"/usr/share/applications"_s}));
+    EXPECT_EQ(folders.user, QDir::homePath() + u"/.local/share/applications"_s);
     EXPECT_EQ(folders.byPrecedence().first(), folders.user);
     qputenv("XDG_DATA_DIRS", "");
     EXPECT_EQ(ApplicationFolders::fromEnvironment().system.first(),
-              QStringLiteral("/usr/local/share/applications"));
+              u"/usr/local/share/applications"_s);
     qputenv("XDG_DATA_DIRS", dataFolders);
     qputenv("XDG_DATA_HOME", dataHome);
 }

@@ -1,9 +1,8 @@
 #include "platform/linux/freedesktop/DesktopEntry.h"
-#include "ConfigFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <sys/stat.h>
+using namespace Qt::StringLiterals;
 
 namespace platform {
 
@@ -28,12 +27,11 @@ TEST(KeyFile, KeepsGroupsApartAndSkipsWhatIsNoLineOfTheFormat) {
                                      "Name=New window\n"
                                      "[damaged heading\n"
                                      "Exec=belongs to nobody");
-    const QString group = QStringLiteral("Desktop Entry");
-    EXPECT_EQ(file.string(group, QStringLiteral("Name")), QStringLiteral("Editor"));
-    EXPECT_FALSE(file.raw(group, QStringLiteral("Comment")));
-    EXPECT_EQ(file.string(QStringLiteral("Desktop Action new"), QStringLiteral("Name")),
-              QStringLiteral("New window"));
-    EXPECT_FALSE(file.raw(QStringLiteral("Desktop Action new"), QStringLiteral("Exec")));
+    const QString group = u"Desktop Entry"_s;
+    EXPECT_EQ(file.string(group, u"Name"_s), u"Editor"_s);
+    EXPECT_FALSE(file.raw(group, u"Comment"_s));
+    EXPECT_EQ(file.string(u"Desktop Action new"_s, u"Name"_s), u"New window"_s);
+    EXPECT_FALSE(file.raw(u"Desktop Action new"_s, u"Exec"_s));
 }
 
 TEST(KeyFile, ResolvesEscapesAndSeparatesLists) {
@@ -41,25 +39,12 @@ TEST(KeyFile, ResolvesEscapesAndSeparatesLists) {
                                      "Text=\\sone\\ntwo\\tthree\\\\four\\q\n"
                                      "List=a\\;b;c;;d\\\\;e\n"
                                      "Yes=true\nNo=false\nOdd=1\n");
-    const QString group = QStringLiteral("G");
-    EXPECT_EQ(file.string(group, QStringLiteral("Text")),
-              QStringLiteral(" one\ntwo\tthree\\four\\q"));
-    EXPECT_EQ(file.list(group, QStringLiteral("List")),
-              (QStringList{QStringLiteral("a;b"), QStringLiteral("c"), QStringLiteral("d\\"),
-                           QStringLiteral("e")}));
-    EXPECT_EQ(file.boolean(group, QStringLiteral("Yes")), true);
-    EXPECT_EQ(file.boolean(group, QStringLiteral("No")), false);
-    EXPECT_EQ(file.boolean(group, QStringLiteral("Odd")), std::nullopt);
-}
-
-TEST(KeyFile, OnlyRegularFilesOfSensibleSizeAreRead) {
-    const fakes::ConfigFolder folder;
-    folder.write(QStringLiteral("huge"), "[G]\nKey=value\n" + QByteArray((1 << 20) + 1, '#'));
-    const QString pipe = folder.path(QStringLiteral("pipe"));
-    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    EXPECT_FALSE(KeyFile::read(folder.path(QStringLiteral("huge"))));
-    EXPECT_FALSE(KeyFile::read(folder.path(QStringLiteral("missing"))));
-    EXPECT_FALSE(KeyFile::read(pipe)); // and it does not wait for a writer either
+    const QString group = u"G"_s;
+    EXPECT_EQ(file.string(group, u"Text"_s), u" one\ntwo\tthree\\four\\q"_s);
+    EXPECT_EQ(file.list(group, u"List"_s), (QStringList{u"a;b"_s, u"c"_s, u"d\\"_s, u"e"_s}));
+    EXPECT_EQ(file.boolean(group, u"Yes"_s), true);
+    EXPECT_EQ(file.boolean(group, u"No"_s), false);
+    EXPECT_EQ(file.boolean(group, u"Odd"_s), std::nullopt);
 }
 
 TEST(DesktopEntry, TheNameFollowsTheLocaleFromTheMostToTheLeastExact) {
@@ -82,31 +67,13 @@ TEST(DesktopEntry, TheCommandLineLosesItsFieldCodesAndKeepsItsQuotes) {
         "Type=Application\nName=My Notes\n"
         "Exec=env LANG=C \"/opt/my notes/notes\" --title %c --escaped \\\\$5 100%% %U --x=%i\n");
     EXPECT_EQ(entry.commandLine(),
-              (QStringList{QStringLiteral("env"), QStringLiteral("LANG=C"),
-                           QStringLiteral("/opt/my notes/notes"), QStringLiteral("--title"),
-                           QStringLiteral("My Notes"), QStringLiteral("--escaped"),
-                           QStringLiteral("$5"), QStringLiteral("100%"), QStringLiteral("--x=")}));
-    EXPECT_EQ(entry.program, QStringLiteral("notes"));
+              (QStringList{u"env"_s, u"LANG=C"_s, u"/opt/my notes/notes"_s, u"--title"_s,
+                           u"My Notes"_s, u"--escaped"_s, u"$5"_s, u"100%"_s, u"--x="_s}));
+    EXPECT_EQ(entry.program, u"notes"_s);
     const auto open = entryFrom("Type=Application\nExec=notes \"without end\n");
     EXPECT_TRUE(open.commandLine().isEmpty());
     EXPECT_TRUE(open.program.isEmpty());
-    EXPECT_TRUE(entryFrom("Type=Application\nExec=notes %\n")
-                    .commandLine()
-                    .contains(QStringLiteral("notes")));
-}
-
-TEST(DesktopEntry, ADesktopIsMeantByNameOrNotExcluded) {
-    const QStringList gnome{QStringLiteral("ubuntu"), QStringLiteral("GNOME")};
-    EXPECT_TRUE(entryFrom("OnlyShowIn=GNOME;Unity;\n").isMeantFor(gnome));
-    EXPECT_FALSE(entryFrom("OnlyShowIn=KDE;\n").isMeantFor(gnome));
-    EXPECT_FALSE(entryFrom("OnlyShowIn=KDE;\n").isMeantFor({}));
-    EXPECT_FALSE(entryFrom("NotShowIn=GNOME;\n").isMeantFor(gnome));
-    EXPECT_TRUE(entryFrom("NotShowIn=KDE;\n").isMeantFor(gnome));
-}
-
-TEST(DesktopEntry, AFileWithoutItsGroupIsNone) {
-    EXPECT_FALSE(DesktopEntry::from(KeyFile::parse("Name=Notes\n"), {}));
-    EXPECT_FALSE(DesktopEntry::from(KeyFile::parse(QByteArray("\0\xff\n[", 4)), {}));
+    EXPECT_TRUE(entryFrom("Type=Application\nExec=notes %\n").commandLine().contains(u"notes"_s));
 }
 
 } // namespace platform

@@ -11,6 +11,7 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
 using platform::DefaultsValue;
 using platform::JsonUserDefaults;
 using testing::HasSubstr;
@@ -51,17 +52,17 @@ TEST_F(JsonUserDefaultsTest, TellsTypesApartAndYieldsNothingForOthers) {
         "list": ["a"], "mixed": ["a", 1], "null": null, "object": {}})");
     const JsonUserDefaults defaults(path);
     const std::vector<std::pair<QString, std::optional<DefaultsValue>>> rows{
-        {QStringLiteral("bool"), true},
-        {QStringLiteral("one"), std::int64_t{1}},
-        {QStringLiteral("one as fraction"), 1.0},
-        {QStringLiteral("string"), QStringLiteral("1")},
-        {QStringLiteral("beyond signed"), std::uint64_t{1} << 63},
-        {QStringLiteral("negative"), std::int64_t{-1}},
-        {QStringLiteral("beyond all"), 18446744073709551616.0},
-        {QStringLiteral("list"), QStringList{QStringLiteral("a")}},
-        {QStringLiteral("mixed"), std::nullopt},
-        {QStringLiteral("null"), std::nullopt},
-        {QStringLiteral("object"), std::nullopt},
+        {u"bool"_s, true},
+        {u"one"_s, std::int64_t{1}},
+        {u"one as fraction"_s, 1.0},
+        {u"string"_s, u"1"_s},
+        {u"beyond signed"_s, std::uint64_t{1} << 63},
+        {u"negative"_s, std::int64_t{-1}},
+        {u"beyond all"_s, 18446744073709551616.0},
+        {u"list"_s, QStringList{u"a"_s}},
+        {u"mixed"_s, std::nullopt},
+        {u"null"_s, std::nullopt},
+        {u"object"_s, std::nullopt},
     };
     for (const auto& [name, expected] : rows) {
         EXPECT_EQ(defaults.object(name), expected) << name.toStdString();
@@ -69,7 +70,7 @@ TEST_F(JsonUserDefaultsTest, TellsTypesApartAndYieldsNothingForOthers) {
 }
 
 TEST_F(JsonUserDefaultsTest, MakesItsFolderAndKeepsWhatItDoesNotKnow) {
-    const QString deep = folder.path(QStringLiteral("a/b/settings.json"));
+    const QString deep = folder.path(u"a/b/settings.json"_s);
     JsonUserDefaults(deep).set(key, true);
     EXPECT_EQ(JsonUserDefaults(deep).object(key), DefaultsValue(true));
 
@@ -111,9 +112,9 @@ TEST_F(JsonUserDefaultsTest, ADamagedFileIsSetAsideAndNeverOverwritesAnEarlierOn
         defaults->set(key, true);
         EXPECT_EQ(JsonUserDefaults(path).object(key), DefaultsValue(true));
     }
-    EXPECT_EQ(folder.read(QStringLiteral("settings.json.damaged")), damaged.front());
+    EXPECT_EQ(folder.read(u"settings.json.damaged"_s), damaged.front());
     for (std::size_t i = 1; i < damaged.size(); ++i) {
-        EXPECT_EQ(folder.read(QStringLiteral("settings.json.damaged-%1").arg(i + 1)), damaged[i]);
+        EXPECT_EQ(folder.read(u"settings.json.damaged-%1"_s.arg(i + 1)), damaged[i]);
     }
 }
 
@@ -121,12 +122,12 @@ TEST_F(JsonUserDefaultsTest, WhatIsNoFileIsSetAsideWithoutBeingOpened) {
     ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
     EXPECT_THAT(logged([&] { JsonUserDefaults(path).set(key, true); }), HasSubstr("set aside"));
     EXPECT_EQ(JsonUserDefaults(path).object(key), DefaultsValue(true));
-    EXPECT_EQ(folder.names(), QStringLiteral("settings.json settings.json.damaged"));
+    EXPECT_EQ(folder.names(), u"settings.json settings.json.damaged"_s);
 }
 
 TEST_F(JsonUserDefaultsTest, WritesThroughALinkAlsoToATargetThatIsNotThereYet) {
-    QDir().mkdir(folder.path(QStringLiteral("elsewhere")));
-    const auto target = QStringLiteral("elsewhere/real.json");
+    QDir().mkdir(folder.path(u"elsewhere"_s));
+    const auto target = u"elsewhere/real.json"_s;
     ASSERT_TRUE(QFile::link(folder.path(target), path));
     for (const bool value : {true, false}) {
         JsonUserDefaults(path).set(key, value);
@@ -140,8 +141,8 @@ TEST_F(JsonUserDefaultsTest, WritesThroughALinkAlsoToATargetThatIsNotThereYet) {
 }
 
 TEST_F(JsonUserDefaultsTest, AFolderThatCannotBeMadeCostsOneLineAndNothingElse) {
-    folder.write(QStringLiteral("occupied"), "");
-    JsonUserDefaults defaults(folder.path(QStringLiteral("occupied/settings.json")));
+    folder.write(u"occupied"_s, "");
+    JsonUserDefaults defaults(folder.path(u"occupied/settings.json"_s));
     const std::string lines = logged([&] {
         defaults.set(key, true);
         defaults.set(key, 1.5);
