@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace platform {
 
 namespace {
@@ -12,7 +14,7 @@ AppcastItem release(const char* version) {
     return item;
 }
 
-const Installation installation{{QStringLiteral("1.0.2"), QStringLiteral("7")}, {12, 4, 0}};
+const Installation installation{{u"1.0.2"_s, u"7"_s}, {12, 4, 0}};
 const QDateTime noon({2026, 11, 23}, {12, 0}, Qt::UTC);
 
 QString chosen(const std::vector<AppcastItem>& items,
@@ -23,16 +25,16 @@ QString chosen(const std::vector<AppcastItem>& items,
 
 TEST(AppcastChoice, is_the_newest_newer_release_of_the_general_channel_that_runs_here) {
     AppcastItem beta = release("9.0");
-    beta.channel = QStringLiteral("beta");
+    beta.channel = u"beta"_s;
     AppcastItem tooNew = release("3.0");
-    tooNew.minimumSystemVersion = QStringLiteral("12.5");
+    tooNew.minimumSystemVersion = u"12.5"_s;
     AppcastItem tooOld = release("2.0");
-    tooOld.maximumSystemVersion = QStringLiteral("12.3");
+    tooOld.maximumSystemVersion = u"12.3"_s;
     AppcastItem fitting = release("1.1");
-    fitting.minimumSystemVersion = QStringLiteral("12.4");
-    fitting.maximumSystemVersion = QStringLiteral("12.4.0");
+    fitting.minimumSystemVersion = u"12.4"_s;
+    fitting.maximumSystemVersion = u"12.4.0"_s;
     EXPECT_EQ(chosen({beta, tooNew, tooOld, release("1.0.3"), fitting, release("1.0.4")}),
-              QStringLiteral("1.1"));
+              u"1.1"_s);
     EXPECT_EQ(chosen({beta, tooNew, tooOld, release("1.0.2"), release("0.9")}), QString());
     EXPECT_EQ(chosen({}), QString());
 }
@@ -41,14 +43,14 @@ TEST(AppcastChoice, reaches_each_seventh_of_the_users_in_turn_unless_they_ask) {
     AppcastItem phased = release("1.1");
     phased.published = noon;
     phased.phasedRolloutInterval = std::chrono::hours(1);
-    const QString version = QStringLiteral("1.1");
+    const QString version = u"1.1"_s;
     EXPECT_EQ(chosen({phased}, RolloutMoment{noon, 0}), version);
     EXPECT_EQ(chosen({phased}, RolloutMoment{noon.addSecs(2 * 3600 - 1), 2}), QString());
     EXPECT_EQ(chosen({phased}, RolloutMoment{noon.addSecs(2 * 3600), 2}), version);
     EXPECT_EQ(chosen({phased}), version);
 
     // Who must wait for the newest is told of the one before.
-    EXPECT_EQ(chosen({phased, release("1.0.3")}, RolloutMoment{noon, 6}), QStringLiteral("1.0.3"));
+    EXPECT_EQ(chosen({phased, release("1.0.3")}, RolloutMoment{noon, 6}), u"1.0.3"_s);
 
     phased.isCritical = true;
     EXPECT_EQ(chosen({phased}, RolloutMoment{noon, 6}), version);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace platform {
 
 namespace {
@@ -9,8 +11,7 @@ namespace {
 using Items = std::vector<AppcastItem>;
 
 std::variant<Items, AppcastError> read(const QByteArray& feed) {
-    return readAppcast(feed,
-                       {QStringLiteral("linux"), {QStringLiteral("de"), QStringLiteral("en")}});
+    return readAppcast(feed, {u"linux"_s, {u"de"_s, u"en"_s}});
 }
 
 QByteArray feedOf(const QByteArray& items) {
@@ -50,18 +51,18 @@ TEST(AppcastReader, reads_everything_that_decides_and_everything_that_is_shown) 
         </item>)");
     ASSERT_EQ(items.size(), 1U);
     const AppcastItem& item = items.front();
-    EXPECT_EQ(item.version.marketing, QStringLiteral("1.1"));
-    EXPECT_EQ(item.version.build, QStringLiteral("12"));
-    EXPECT_EQ(item.channel, QStringLiteral("beta"));
-    EXPECT_EQ(item.minimumSystemVersion, QStringLiteral("12.0"));
-    EXPECT_EQ(item.maximumSystemVersion, QStringLiteral("13"));
+    EXPECT_EQ(item.version.marketing, u"1.1"_s);
+    EXPECT_EQ(item.version.build, u"12"_s);
+    EXPECT_EQ(item.channel, u"beta"_s);
+    EXPECT_EQ(item.minimumSystemVersion, u"12.0"_s);
+    EXPECT_EQ(item.maximumSystemVersion, u"13"_s);
     EXPECT_EQ(item.published, QDateTime({2026, 11, 23}, {8, 0}, Qt::UTC));
     EXPECT_EQ(item.phasedRolloutInterval, std::chrono::hours(24));
     EXPECT_TRUE(item.isCritical);
-    EXPECT_EQ(item.criticalBelow, QStringLiteral("9"));
-    EXPECT_EQ(item.page, QUrl(QStringLiteral("https://quillet.invalid/download")));
-    EXPECT_EQ(item.releaseNotesPage, QUrl(QStringLiteral("https://quillet.invalid/de")));
-    EXPECT_EQ(item.notes, QStringLiteral("Deutsch <&>"));
+    EXPECT_EQ(item.criticalBelow, u"9"_s);
+    EXPECT_EQ(item.page, QUrl(u"https://quillet.invalid/download"_s));
+    EXPECT_EQ(item.releaseNotesPage, QUrl(u"https://quillet.invalid/de"_s));
+    EXPECT_EQ(item.notes, u"Deutsch <&>"_s);
     EXPECT_EQ(item.notesFormat, NotesFormat::PlainText);
 }
 

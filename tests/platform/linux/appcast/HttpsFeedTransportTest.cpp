@@ -1,15 +1,16 @@
 #include "platform/linux/appcast/HttpsFeedTransport.h"
 
+#include "fakes/Eventually.h"
 #include "platform/qt/QtRunLoop.h"
 
-#include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 namespace platform {
 
@@ -23,8 +24,7 @@ public:
         process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         process_.start(QStringLiteral(PYTHON), {QStringLiteral(FEED_SERVER), folder_.path()});
         ports_ = readLine();
-        qputenv("QUILLET_TEST_AUTHORITY",
-                QFile::encodeName(folder_.filePath(QStringLiteral("authority.pem"))));
+        qputenv("QUILLET_TEST_AUTHORITY", QFile::encodeName(folder_.filePath(u"authority.pem"_s)));
     }
     ~FeedServer() {
         process_.closeWriteChannel();
@@ -37,9 +37,8 @@ public:
     QString port(const char* name) const { return ports_[QLatin1String(name)].toString(); }
     QUrl url(const char* server, const QString& path) const {
         const bool isPlain = QLatin1String(server) == QLatin1String("http");
-        return QUrl(QStringLiteral("%1://127.0.0.1:%2/%3")
-                        .arg(isPlain ? QStringLiteral("http") : QStringLiteral("https"),
-                             port(server), path));
+        return QUrl(
+            u"%1://127.0.0.1:%2/%3"_s.arg(isPlain ? u"http"_s : u"https"_s, port(server), path));
     }
     void publish(const char* name, const QByteArray& feed) const {
         QFile file(folder_.filePath(QLatin1String(name)));
@@ -78,21 +77,14 @@ protected:
             received = std::move(answer);
         });
         EXPECT_FALSE(received) << "answered at once";
-        waitFor([&] { return received.has_value(); });
+        fakes::eventually([&] { return received.has_value(); });
         QCoreApplication::processEvents();
         if (!received) {
-            return QStringLiteral("no answer");
+            return u"no answer"_s;
         }
         const auto* error = std::get_if<AppcastError>(&*received);
         return error != nullptr ? error->reason
                                 : QString::fromUtf8(std::get<QByteArray>(*received));
-    }
-    static void waitFor(const std::function<bool()>& condition) {
-        QElapsedTimer timer;
-        timer.start();
-        while (!condition() && timer.elapsed() < patience) {
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
-        }
     }
     static QtRunLoop& runLoop() { return *runLoop_; }
     static FeedServer& server() { return *server_; }
@@ -113,66 +105,61 @@ private:
 
 TEST_F(HttpsFeedTransportTest, reads_feeds_over_https_wherever_they_moved) {
     server().publish("feed.xml", "<rss/>\xc3\xa4");
-    EXPECT_EQ(fetch(server().url("https", QStringLiteral("feed.xml"))), QStringLiteral("<rss/>ä"));
-    const QString moved = QStringLiteral("to/%1/feed.xml").arg(server().port("https"));
-    EXPECT_EQ(fetch(server().url("https", moved)), QStringLiteral("<rss/>ä"));
+    EXPECT_EQ(fetch(server().url("https", u"feed.xml"_s)), u"<rss/>ä"_s);
+    const QString moved = u"to/%1/feed.xml"_s.arg(server().port("https"));
+    EXPECT_EQ(fetch(server().url("https", moved)), u"<rss/>ä"_s);
 }
 
 TEST_F(HttpsFeedTransportTest, reads_nothing_that_is_not_secure) {
     server().publish("feed.xml", "<rss/>");
-    const QString toPlain = QStringLiteral("to/%1/feed.xml").arg(server().port("http"));
-    const QString toStranger = QStringLiteral("to/%1/feed.xml").arg(server().port("stranger"));
-    const QString insecure = QStringLiteral("its address is not one of https");
-    for (const QUrl& address :
-         {server().url("http", QStringLiteral("feed.xml")), QUrl(), QUrl(QStringLiteral("https:")),
-          QUrl(QStringLiteral("file:///etc/passwd")), QUrl(QStringLiteral("feed.xml"))}) {
+    const QString toPlain = u"to/%1/feed.xml"_s.arg(server().port("http"));
+    const QString toStranger = u"to/%1/feed.xml"_s.arg(server().port("stranger"));
+    const QString insecure = u"its address is not one of https"_s;
+    for (const QUrl& address : {server().url("http", u"feed.xml"_s), QUrl(), QUrl(u"https:"_s),
+                                QUrl(u"file:///etc/passwd"_s), QUrl(u"feed.xml"_s)}) {
         EXPECT_EQ(fetch(address), insecure) << address.toString().toStdString();
     }
-    const int before = server().traffic()[QStringLiteral("requests")].toInt();
+    const int before = server().traffic()[u"requests"_s].toInt();
     EXPECT_EQ(fetch(server().url("https", toPlain)),
-              QStringLiteral("the server sends elsewhere, where the connection is not secure"));
-    for (const QUrl& address : {server().url("other", QStringLiteral("feed.xml")),
-                                server().url("stranger", QStringLiteral("feed.xml")),
-                                server().url("https", toStranger)}) {
-        EXPECT_TRUE(fetch(address).startsWith(QStringLiteral("SSL handshake failed")))
+              u"the server sends elsewhere, where the connection is not secure"_s);
+    for (const QUrl& address :
+         {server().url("other", u"feed.xml"_s), server().url("stranger", u"feed.xml"_s),
+          server().url("https", toStranger)}) {
+        EXPECT_TRUE(fetch(address).startsWith(u"SSL handshake failed"_s))
             << fetch(address).toStdString();
     }
     // The redirects were asked for, and nothing behind them.
-    EXPECT_EQ(server().traffic()[QStringLiteral("requests")].toInt() - before, 2);
+    EXPECT_EQ(server().traffic()[u"requests"_s].toInt() - before, 2);
 }
 
 TEST_F(HttpsFeedTransportTest, gives_up_on_a_feed_that_is_too_large_before_it_has_all_of_it) {
-    const double before = server().traffic()[QStringLiteral("sent")].toDouble();
-    EXPECT_EQ(fetch(server().url("https", QStringLiteral("endless"))),
-              QStringLiteral("the feed is too large"));
-    EXPECT_LT(server().traffic()[QStringLiteral("sent")].toDouble() - before, 30e6);
+    const double before = server().traffic()[u"sent"_s].toDouble();
+    EXPECT_EQ(fetch(server().url("https", u"endless"_s)), u"the feed is too large"_s);
+    EXPECT_LT(server().traffic()[u"sent"_s].toDouble() - before, 30e6);
 
-    const QString packed = fetch(server().url("https", QStringLiteral("packed")));
+    const QString packed = fetch(server().url("https", u"packed"_s));
     EXPECT_LT(packed.size(), 1'000'000) << "it was unpacked";
 }
 
 TEST_F(HttpsFeedTransportTest, gives_up_in_time_and_says_what_went_wrong) {
-    const QString late = QStringLiteral("the server did not answer in time");
-    EXPECT_EQ(fetch(server().url("https", QStringLiteral("silent")), Seconds(0.5)), late);
-    EXPECT_EQ(fetch(server().url("https", QStringLiteral("drip")), Seconds(0.5)), late);
-    EXPECT_EQ(fetch(server().url("https", QStringLiteral("missing"))),
-              QStringLiteral("the server answered with status 404"));
-    EXPECT_EQ(fetch(server().url("https", QStringLiteral("circle"))),
-              QStringLiteral("the server sends from one place to the next"));
-    EXPECT_EQ(fetch(QUrl(QStringLiteral("https://127.0.0.1:1/"))),
-              QStringLiteral("Connection refused"));
+    const QString late = u"the server did not answer in time"_s;
+    EXPECT_EQ(fetch(server().url("https", u"silent"_s), Seconds(0.5)), late);
+    EXPECT_EQ(fetch(server().url("https", u"drip"_s), Seconds(0.5)), late);
+    EXPECT_EQ(fetch(server().url("https", u"missing"_s)), u"the server answered with status 404"_s);
+    EXPECT_EQ(fetch(server().url("https", u"circle"_s)),
+              u"the server sends from one place to the next"_s);
+    EXPECT_EQ(fetch(QUrl(u"https://127.0.0.1:1/"_s)), u"Connection refused"_s);
 }
 
 TEST_F(HttpsFeedTransportTest, does_not_answer_once_it_was_called_off) {
     HttpsFeedTransport transport(runLoop());
-    const int before = server().traffic()[QStringLiteral("requests")].toInt();
+    const int before = server().traffic()[u"requests"_s].toInt();
     bool answered = false;
-    auto download = transport.fetch(server().url("https", QStringLiteral("drip")),
+    auto download = transport.fetch(server().url("https", u"drip"_s),
                                     [&](const FeedAnswer&) { answered = true; });
-    waitFor([&] { return server().traffic()[QStringLiteral("requests")].toInt() > before; });
+    fakes::eventually([&] { return server().traffic()[u"requests"_s].toInt() > before; });
     download.reset();
-    EXPECT_EQ(fetch(server().url("https", QStringLiteral("missing"))),
-              QStringLiteral("the server answered with status 404"));
+    EXPECT_EQ(fetch(server().url("https", u"missing"_s)), u"the server answered with status 404"_s);
     EXPECT_FALSE(answered);
 }
 

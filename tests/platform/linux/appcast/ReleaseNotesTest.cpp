@@ -3,6 +3,8 @@
 #include <QElapsedTimer>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace platform {
 
 namespace {
@@ -34,8 +36,8 @@ TEST(ReleaseNotes, are_the_words_of_the_markup) {
                   c.text)
             << c.html;
     }
-    EXPECT_EQ(releaseNotesText(QStringLiteral("* <b>\r\n  &amp;\u202e "), NotesFormat::PlainText),
-              QStringLiteral("* <b>\n  &amp;"));
+    EXPECT_EQ(releaseNotesText(u"* <b>\r\n  &amp;\u202e "_s, NotesFormat::PlainText),
+              u"* <b>\n  &amp;"_s);
 }
 
 TEST(ReleaseNotes, take_no_longer_however_much_is_nested_and_end_somewhere) {

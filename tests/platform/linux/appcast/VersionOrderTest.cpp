@@ -4,33 +4,34 @@
 
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace platform {
 
 namespace {
 
 TEST(VersionOrder, each_of_a_row_is_the_same_and_older_than_the_next_row) {
     const std::vector<std::vector<QString>> rows{
-        {QString(), QStringLiteral("0"), QStringLiteral("0.0"), QStringLiteral("-5")},
-        {QStringLiteral("0.0.1")},
-        {QStringLiteral("0.1"), QStringLiteral("0.1.0")},
-        {QStringLiteral("0.9")},
-        {QStringLiteral("1.0 alpha")},
-        {QStringLiteral("1.0b"), QStringLiteral("1b0"), QStringLiteral("1.0.0b")},
-        {QStringLiteral("1.0b1"), QStringLiteral("1.0.B.1")},
-        {QStringLiteral("1.0b2")},
-        {QStringLiteral("1.0b10")},
-        {QStringLiteral("1.0 beta")},
-        {QStringLiteral("1.0rc1")},
-        {QStringLiteral("1.0"), QStringLiteral("1"), QStringLiteral("1.0.0"),
-         QStringLiteral("01.00"), QStringLiteral("1.0-rc2"), QStringLiteral("1.0-4")},
-        {QStringLiteral("1.0.1a")},
-        {QStringLiteral("1.0.1")},
-        {QStringLiteral("1.9")},
-        {QStringLiteral("1.10"), QStringLiteral("1.10 (0)")},
-        {QStringLiteral("1.10 (17)")},
-        {QStringLiteral("20261123")},
-        {QStringLiteral("18446744073709551616")},
-        {QStringLiteral("18446744073709551617")},
+        {QString(), u"0"_s, u"0.0"_s, u"-5"_s},
+        {u"0.0.1"_s},
+        {u"0.1"_s, u"0.1.0"_s},
+        {u"0.9"_s},
+        {u"1.0 alpha"_s},
+        {u"1.0b"_s, u"1b0"_s, u"1.0.0b"_s},
+        {u"1.0b1"_s, u"1.0.B.1"_s},
+        {u"1.0b2"_s},
+        {u"1.0b10"_s},
+        {u"1.0 beta"_s},
+        {u"1.0rc1"_s},
+        {u"1.0"_s, u"1"_s, u"1.0.0"_s, u"01.00"_s, u"1.0-rc2"_s, u"1.0-4"_s},
+        {u"1.0.1a"_s},
+        {u"1.0.1"_s},
+        {u"1.9"_s},
+        {u"1.10"_s, u"1.10 (0)"_s},
+        {u"1.10 (17)"_s},
+        {u"20261123"_s},
+        {u"18446744073709551616"_s},
+        {u"18446744073709551617"_s},
     };
     for (std::size_t i = 0; i < rows.size(); ++i) {
         for (std::size_t j = 0; j < rows.size(); ++j) {
@@ -45,7 +46,7 @@ TEST(VersionOrder, each_of_a_row_is_the_same_and_older_than_the_next_row) {
 }
 
 TEST(VersionOrder, builds_only_tell_the_same_version_apart) {
-    const ProgramVersion installed{QStringLiteral("1.0.2"), QStringLiteral("7")};
+    const ProgramVersion installed{u"1.0.2"_s, u"7"_s};
     const auto compared = [&](const char* marketing, const char* build) {
         return compareVersions({QLatin1String(marketing), QLatin1String(build)}, installed);
     };
