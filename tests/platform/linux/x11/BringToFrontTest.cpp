@@ -25,40 +25,6 @@ protected:
     QWidget window;
 };
 
-/// What the desktop's busy pointer listens to: the texts of startup messages on the root window.
-class StartupMessages {
-public:
-    StartupMessages() {
-        connection_->addRootEvents(XCB_EVENT_MASK_PROPERTY_CHANGE);
-        connection_->serverTime(); // from here on the server sends them
-    }
-
-    std::vector<std::string> texts;
-
-private:
-    void handle(const xcb_generic_event_t& event) {
-        if ((event.response_type & 0x7f) != XCB_CLIENT_MESSAGE) {
-            return;
-        }
-        const auto& piece = reinterpret_cast<const xcb_client_message_event_t&>(event);
-        if (piece.type == connection_->atom("_NET_STARTUP_INFO_BEGIN")) {
-            text_.clear();
-        }
-        for (const auto byte : piece.data.data8) {
-            if (byte == 0) {
-                texts.push_back(text_);
-                return;
-            }
-            text_ += static_cast<char>(byte);
-        }
-    }
-
-    std::string text_;
-    std::shared_ptr<platform::XcbConnection> connection_ = platform::XcbConnection::open();
-    core::Registration events_ =
-        connection_->addEventHandler([this](const xcb_generic_event_t& event) { handle(event); });
-};
-
 } // namespace
 
 TEST_F(BringToFrontTest, BeforeWhateverApplicationTheUserIsIn) {
@@ -86,14 +52,26 @@ TEST_F(BringToFrontTest, AWindowThatWasClosedComesBack) {
 }
 
 TEST_F(BringToFrontTest, AnOldTokenDoesItTooAndEndsTheBusyPointer) {
-    StartupMessages messages;
+    // The desktop listens on the root window for a text in pieces that a zero ends.
+    const auto desktop = platform::XcbConnection::open();
+    std::string said;
+    const auto listening = desktop->addEventHandler([&](const xcb_generic_event_t& event) {
+        if ((event.response_type & 0x7f) == XCB_CLIENT_MESSAGE) {
+            const auto& piece = reinterpret_cast<const xcb_client_message_event_t&>(event);
+            EXPECT_EQ(piece.type == desktop->atom("_NET_STARTUP_INFO_BEGIN"), said.empty());
+            said.append(reinterpret_cast<const char*>(piece.data.data8), sizeof piece.data.data8);
+        }
+    });
+    desktop->addRootEvents(XCB_EVENT_MASK_PROPERTY_CHANGE);
+    desktop->serverTime(); // from here on the server sends them
+
     const auto notes = installed();
     ASSERT_TRUE(waitForActive(*notes));
     const QString token = QStringLiteral("a launcher with a rather long name/42_TIME1");
     windowServer.bringToFront(window, {token, {}});
     EXPECT_TRUE(comesToFront());
-    EXPECT_TRUE(eventually([&] { return !messages.texts.empty(); }));
-    EXPECT_EQ(messages.texts, std::vector{"remove: ID=\"" + token.toStdString() + "\""});
+    EXPECT_TRUE(eventually([&] { return said.find('\0') != std::string::npos; }));
+    EXPECT_EQ(said.c_str(), "remove: ID=\"" + token.toStdString() + "\"");
 }
 
 TEST_F(BringToFrontTest, WithoutManagerTheWindowGetsTheKeyboard) {

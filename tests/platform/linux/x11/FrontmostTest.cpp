@@ -1,6 +1,5 @@
 #include "XWindowsFixture.h"
 
-#include <QProcess>
 #include <QUrl>
 #include <QWidget>
 
@@ -186,33 +185,18 @@ TEST_F(XWithoutManagerTest, TheInputFocusTellsWhoIsFrontmostAndActivationMovesIt
 
 TEST_F(XWithoutManagerTest, AManagerIsKnownByItsSignInWhateverOrderItIsGiven) {
     {
-        XWindow sign(*applications, {});
-        const xcb_window_t id = sign.id();
-        xcb_change_property(applications->get(), XCB_PROP_MODE_REPLACE, applications->root(),
-                            applications->atom("_NET_SUPPORTING_WM_CHECK"), XCB_ATOM_WINDOW, 32, 1,
-                            &id);
-        settle(*applications);
+        const XWindow sign(*applications, {});
+        const auto name = [&](xcb_window_t window) {
+            setNumbers(*applications, window, "_NET_SUPPORTING_WM_CHECK", XCB_ATOM_WINDOW,
+                       {sign.id()});
+        };
+        name(applications->root());
         EXPECT_FALSE(windows.activeWindow().hasWindowManager());
-        sign.setNumbers("_NET_SUPPORTING_WM_CHECK", XCB_ATOM_WINDOW, {id});
-        settle(*applications);
+        name(sign.id());
         EXPECT_TRUE(eventually([&] { return windows.activeWindow().hasWindowManager(); }));
     }
     // The root window keeps the mark of a manager that died.
     EXPECT_TRUE(eventually([&] { return !windows.activeWindow().hasWindowManager(); }));
-}
-
-TEST_F(XWithoutManagerTest, AWindowManagerThatComesAndGoesIsNoticed) {
-    QProcess manager;
-    manager.start(QStringLiteral("openbox"), {});
-    const auto notes = installed();
-    EXPECT_TRUE(eventually([&] { return windows.activeWindow().hasWindowManager(); }));
-    notes->focus();
-    EXPECT_TRUE(waitForFrontmost(installedProcess));
-    manager.kill();
-    EXPECT_TRUE(eventually([&] { return !windows.activeWindow().hasWindowManager(); }));
-    notes->focus();
-    EXPECT_EQ(frontmostProcess(), installedProcess);
-    manager.waitForFinished();
 }
 
 } // namespace desktop

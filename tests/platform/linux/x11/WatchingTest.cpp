@@ -165,11 +165,8 @@ TEST_F(WatchingTest, DismissesByAPressByEscapeAndByAnotherActiveWindow) {
         return std::exchange(dismissals, {});
     };
     const auto activate = [&](xcb_window_t window) {
-        auto* other = user.display().get();
-        xcb_change_property(other, XCB_PROP_MODE_REPLACE, user.display().root(),
-                            user.display().atom("_NET_ACTIVE_WINDOW"), XCB_ATOM_WINDOW, 32, 1,
-                            &window);
-        settle(user.display());
+        setNumbers(user.display(), user.display().root(), "_NET_ACTIVE_WINDOW", XCB_ATOM_WINDOW,
+                   {window});
     };
     activate(7);
     const auto picker = pointerMonitor.addDismissMonitor([&](const platform::DismissEvent& event) {

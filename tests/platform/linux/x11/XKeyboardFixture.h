@@ -27,6 +27,17 @@ inline constexpr platform::ScanCode leftSuper = 133;
 
 using Keys = std::vector<std::string>;
 
+inline void postShortcut(platform::KeyboardEvents& keyboard, platform::KeyCode key,
+                         std::uint64_t flags) {
+    const auto source = keyboard.createSource(platform::EventSourceState::HidSystem);
+    const auto down = keyboard.createKeyEvent(source.get(), key, platform::KeyDirection::Down);
+    const auto up = keyboard.createKeyEvent(source.get(), key, platform::KeyDirection::Up);
+    ASSERT_TRUE(down && up);
+    down->setFlags(flags);
+    keyboard.post(*down, platform::EventTap::Hid);
+    keyboard.post(*up, platform::EventTap::Hid);
+}
+
 /// The program's keyboard between a user and an application. Leaves the server as it was.
 class XKeyboardTest : public testing::Test {
 protected:
@@ -44,13 +55,7 @@ protected:
     }
 
     void post(platform::KeyCode key, std::uint64_t flags) {
-        const auto source = keyboard.createSource(platform::EventSourceState::HidSystem);
-        const auto down = keyboard.createKeyEvent(source.get(), key, platform::KeyDirection::Down);
-        const auto up = keyboard.createKeyEvent(source.get(), key, platform::KeyDirection::Up);
-        ASSERT_TRUE(down && up);
-        down->setFlags(flags);
-        keyboard.post(*down, platform::EventTap::Hid);
-        keyboard.post(*up, platform::EventTap::Hid);
+        postShortcut(keyboard, key, flags);
         settle(*connection);
     }
 

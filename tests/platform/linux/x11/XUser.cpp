@@ -31,6 +31,13 @@ void settle(platform::XcbDisplay& display) {
     }
 }
 
+void setNumbers(platform::XcbDisplay& display, xcb_window_t window, const char* property,
+                xcb_atom_t type, const std::vector<std::uint32_t>& values) {
+    xcb_change_property(display.get(), XCB_PROP_MODE_REPLACE, window, display.atom(property), type,
+                        32, static_cast<std::uint32_t>(values.size()), values.data());
+    settle(display);
+}
+
 XUser::XUser()
     : display_(connect()) {
     const platform::XcbPointer<xcb_xkb_use_extension_reply_t> xkb(xcb_xkb_use_extension_reply(

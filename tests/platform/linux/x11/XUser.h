@@ -12,6 +12,10 @@ namespace desktop {
 /// Waits until the server has handled everything that was asked of it on this connection.
 void settle(platform::XcbDisplay& display);
 
+/// Gives a window a property of numbers.
+void setNumbers(platform::XcbDisplay& display, xcb_window_t window, const char* property,
+                xcb_atom_t type, const std::vector<std::uint32_t>& values);
+
 /// The user at keyboard and pointer: another client of the server, which posts what it likes.
 class XUser {
 public:

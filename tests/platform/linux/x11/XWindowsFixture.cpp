@@ -1,24 +1,8 @@
 #include "XWindowsFixture.h"
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QFile>
-#include <QTimer>
 
 namespace desktop {
-
-bool eventually(const std::function<bool()>& condition) {
-    QTimer wakeUp;
-    wakeUp.start(5);
-    const QDeadlineTimer limit(10'000);
-    while (!condition()) {
-        if (limit.hasExpired()) {
-            return false;
-        }
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
-    return true;
-}
 
 XWindow::XWindow(platform::XcbDisplay& display, const Looks& looks)
     : display_(display)
@@ -29,26 +13,30 @@ XWindow::XWindow(platform::XcbDisplay& display, const Looks& looks)
                       static_cast<std::uint16_t>(frame.width),
                       static_cast<std::uint16_t>(frame.height), 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
                       XCB_COPY_FROM_PARENT, 0, nullptr);
+    const auto say = [&](const char* property, xcb_atom_t type,
+                         const std::vector<std::uint32_t>& values) {
+        setNumbers(display, window_, property, type, values);
+    };
     if (looks.process != 0) {
-        setNumbers("_NET_WM_PID", XCB_ATOM_CARDINAL, {static_cast<std::uint32_t>(looks.process)});
+        say("_NET_WM_PID", XCB_ATOM_CARDINAL, {static_cast<std::uint32_t>(looks.process)});
     }
     if (!looks.className.empty()) {
         setClass(looks.className);
     }
-    setNumbers("_NET_WM_WINDOW_TYPE", XCB_ATOM_ATOM, {display.atom(looks.type.c_str())});
+    say("_NET_WM_WINDOW_TYPE", XCB_ATOM_ATOM, {display.atom(looks.type.c_str())});
     if (!looks.strut.empty()) {
-        setNumbers("_NET_WM_STRUT_PARTIAL", XCB_ATOM_CARDINAL, looks.strut);
+        say("_NET_WM_STRUT_PARTIAL", XCB_ATOM_CARDINAL, looks.strut);
     }
     if (!looks.onTaskbar) {
-        setNumbers("_NET_WM_STATE", XCB_ATOM_ATOM, {display.atom("_NET_WM_STATE_SKIP_TASKBAR")});
+        say("_NET_WM_STATE", XCB_ATOM_ATOM, {display.atom("_NET_WM_STATE_SKIP_TASKBAR")});
     }
     if (looks.parent != XCB_WINDOW_NONE) {
-        setNumbers("WM_TRANSIENT_FOR", XCB_ATOM_WINDOW, {looks.parent});
+        say("WM_TRANSIENT_FOR", XCB_ATOM_WINDOW, {looks.parent});
     }
     // The user's own place and size: the window manager leaves them alone.
     std::vector<std::uint32_t> hints(18);
     hints[0] = 1U | 2U;
-    setNumbers("WM_NORMAL_HINTS", XCB_ATOM_WM_SIZE_HINTS, hints);
+    say("WM_NORMAL_HINTS", XCB_ATOM_WM_SIZE_HINTS, hints);
     xcb_map_window(display.get(), window_);
     settle(display);
 }
@@ -56,12 +44,6 @@ XWindow::XWindow(platform::XcbDisplay& display, const Looks& looks)
 XWindow::~XWindow() {
     xcb_destroy_window(display_.get(), window_);
     settle(display_);
-}
-
-void XWindow::setNumbers(const char* property, xcb_atom_t type,
-                         const std::vector<std::uint32_t>& values) {
-    xcb_change_property(display_.get(), XCB_PROP_MODE_REPLACE, window_, display_.atom(property),
-                        type, 32, static_cast<std::uint32_t>(values.size()), values.data());
 }
 
 void XWindow::setClass(const std::string& name) {
@@ -124,18 +106,6 @@ void XWindowsTest::activate(platform::ProcessIdentifier process) {
     platform::RunningApplication application;
     application.processIdentifier = process;
     workspace.activate(application);
-}
-
-std::unique_ptr<XWindow> XWindowsTest::installed(platform::PixelRect frame) {
-    return std::make_unique<XWindow>(
-        *applications,
-        XWindow::Looks{.frame = frame, .process = installedProcess, .className = "Notes"});
-}
-
-std::unique_ptr<XWindow> XWindowsTest::unknown(platform::PixelRect frame) {
-    return std::make_unique<XWindow>(
-        *applications,
-        XWindow::Looks{.frame = frame, .process = unknownProcess, .className = "Terminal"});
 }
 
 } // namespace desktop

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "XUser.h"
+#include "fakes/Eventually.h"
 #include "fakes/VirtualRunLoop.h"
 #include "platform/linux/x11/EwmhWorkspace.h"
 #include "platform/linux/x11/X11Screens.h"
@@ -9,12 +10,9 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include <functional>
-
 namespace desktop {
 
-/// Lets the program handle events until it is so; false when it is not within 10 s.
-bool eventually(const std::function<bool()>& condition);
+using fakes::eventually;
 
 /// A window of some other application, which says of itself what a test wants.
 class XWindow {
@@ -38,8 +36,6 @@ public:
 
     xcb_window_t id() const { return window_; }
     void setClass(const std::string& name);
-    void setNumbers(const char* property, xcb_atom_t type,
-                    const std::vector<std::uint32_t>& values);
     void focus();
     void hide();
 
@@ -59,8 +55,17 @@ protected:
     bool waitForActive(const XWindow& window);
     void activate(platform::ProcessIdentifier process);
 
-    std::unique_ptr<XWindow> installed(platform::PixelRect frame = {100, 100, 200, 100});
-    std::unique_ptr<XWindow> unknown(platform::PixelRect frame = {400, 300, 200, 100});
+    std::unique_ptr<XWindow> installed(platform::PixelRect frame = {100, 100, 200, 100}) {
+        return window(frame, installedProcess, "Notes");
+    }
+    std::unique_ptr<XWindow> unknown(platform::PixelRect frame = {400, 300, 200, 100}) {
+        return window(frame, unknownProcess, "Terminal");
+    }
+    std::unique_ptr<XWindow> window(platform::PixelRect frame, platform::ProcessIdentifier process,
+                                    const char* className) {
+        const XWindow::Looks looks{.frame = frame, .process = process, .className = className};
+        return std::make_unique<XWindow>(*applications, looks);
+    }
 
     static constexpr platform::ProcessIdentifier installedProcess = 4000001;
     static constexpr platform::ProcessIdentifier unknownProcess = 4000002;
