@@ -50,19 +50,17 @@ TEST(QtAlerts, ShowsWhatTheAlertSays) {
             });
 }
 
-TEST(QtAlerts, AnswersWithThePressedButton) {
+TEST(QtAlerts, AnswersWithThePressedButtonAndClosingCountsAsTheLastOne) {
     platform::QtAlerts alerts;
-    EXPECT_EQ(runWith(alerts, question, [](QMessageBox& box) { box.buttons().at(0)->click(); }),
-              1000);
-    EXPECT_EQ(runWith(alerts, question, [](QMessageBox& box) { box.buttons().at(1)->click(); }),
-              1001);
+    const auto press = [](int button) {
+        return [button](QMessageBox& box) { box.buttons().at(button)->click(); };
+    };
+    const auto close = [](QMessageBox& box) { box.close(); };
+    EXPECT_EQ(runWith(alerts, question, press(0)), 1000);
+    EXPECT_EQ(runWith(alerts, question, press(1)), 1001);
     EXPECT_EQ(runWith(alerts, question, [](QMessageBox& box) { box.defaultButton()->click(); }),
               1000);
-}
-
-TEST(QtAlerts, ClosingCountsAsTheLastButton) {
-    platform::QtAlerts alerts;
-    EXPECT_EQ(runWith(alerts, question, [](QMessageBox& box) { box.close(); }), 1001);
+    EXPECT_EQ(runWith(alerts, question, close), 1001);
     EXPECT_EQ(runWith(alerts, question,
                       [](QMessageBox& box) {
                           QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
@@ -70,7 +68,7 @@ TEST(QtAlerts, ClosingCountsAsTheLastButton) {
                       }),
               1001);
     const Alert notice{AlertStyle::Informational, {}, {}, {QStringLiteral("OK")}};
-    EXPECT_EQ(runWith(alerts, notice, [](QMessageBox& box) { box.close(); }), 1000);
+    EXPECT_EQ(runWith(alerts, notice, close), 1000);
 }
 
 TEST(QtAlerts, ShowsOneAlertAtATime) {

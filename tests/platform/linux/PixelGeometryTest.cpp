@@ -21,19 +21,19 @@ void expectRect(const Rect& actual, const Rect& expected) {
 
 } // namespace
 
-TEST(PixelGeometry, OneScreenFlipsTheVerticalAxis) {
-    const PixelGeometry geometry({screenAt({0, 0, 1280, 800}, 1, true)});
-    expectRect(geometry.topLeftPoints({100, 50, 200, 20}), {100, 50, 200, 20});
-    expectRect(geometry.globalPoints({100, 50, 200, 20}), {100, 730, 200, 20});
-    EXPECT_EQ(geometry.globalPoint({0, 800}), (Point{0, 0}));
-    EXPECT_EQ(geometry.pixels({100, 730, 200, 20}), (PixelRect{100, 50, 200, 20}));
-}
+TEST(PixelGeometry, OneScreenFlipsTheVerticalAxisAndItsRatioScalesEverything) {
+    const PixelGeometry plain({screenAt({0, 0, 1280, 800}, 1, true)});
+    expectRect(plain.topLeftPoints({100, 50, 200, 20}), {100, 50, 200, 20});
+    expectRect(plain.globalPoints({100, 50, 200, 20}), {100, 730, 200, 20});
+    EXPECT_EQ(plain.globalPoint({0, 800}), (Point{0, 0}));
+    EXPECT_EQ(plain.pixels({100, 730, 200, 20}), (PixelRect{100, 50, 200, 20}));
 
-TEST(PixelGeometry, ThePrimaryScreensRatioScalesEverythingOnIt) {
-    const PixelGeometry geometry({screenAt({0, 0, 2560, 1600}, 2, true)});
-    expectRect(geometry.globalPoints({0, 0, 2560, 1600}), {0, 0, 1280, 800});
-    expectRect(geometry.globalPoints({201, 100, 50, 40}), {100.5, 730, 25, 20});
-    EXPECT_EQ(geometry.pixels({100.5, 730, 25, 20}), (PixelRect{201, 100, 50, 40}));
+    const PixelGeometry dense({screenAt({0, 0, 2560, 1600}, 2, true)});
+    expectRect(dense.globalPoints({201, 100, 50, 40}), {100.5, 730, 25, 20});
+    EXPECT_EQ(dense.pixels({100.5, 730, 25, 20}), (PixelRect{201, 100, 50, 40}));
+    // A ratio that is none counts as one.
+    EXPECT_EQ(PixelGeometry({screenAt({0, 0, 100, 100}, 0, true)}).pixels({10, 80, 5, 10}),
+              (PixelRect{10, 10, 5, 10}));
 }
 
 TEST(PixelGeometry, EachScreenKeepsItsCornerAndHasARatioOfItsOwn) {
@@ -85,11 +85,6 @@ TEST(PixelGeometry, WithoutAScreenPixelsAndPointsAreTheSame) {
               (PixelRect{10, 20, 30, 40}));
     EXPECT_EQ(geometry.screenNearest({1, 1}), nullptr);
     EXPECT_EQ(geometry.primaryScreen(), nullptr);
-}
-
-TEST(PixelGeometry, ARatioThatIsNoneCountsAsOne) {
-    const PixelGeometry geometry({screenAt({0, 0, 100, 100}, 0, true)});
-    EXPECT_EQ(geometry.pixels({10, 80, 5, 10}), (PixelRect{10, 10, 5, 10}));
 }
 
 } // namespace platform

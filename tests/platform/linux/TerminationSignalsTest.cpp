@@ -1,24 +1,9 @@
 #include "platform/linux/TerminationSignals.h"
 
-#include <QCoreApplication>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 #include <csignal>
 #include <cstdlib>
-
-TEST(TerminationSignals, EndTheEventLoopLikeQuit) {
-    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
-        const platform::TerminationSignals signals;
-        bool toldToQuit = false;
-        QObject context;
-        QObject::connect(qApp, &QCoreApplication::aboutToQuit, &context,
-                         [&] { toldToQuit = true; });
-        QTimer::singleShot(0, qApp, [signal] { std::raise(signal); });
-        EXPECT_EQ(QCoreApplication::exec(), 0);
-        EXPECT_TRUE(toldToQuit);
-    }
-}
 
 TEST(TerminationSignals, TheSecondSignalEndsTheProcessAtOnce) {
     EXPECT_EXIT(
