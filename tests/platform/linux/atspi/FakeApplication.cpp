@@ -26,7 +26,8 @@ QList<unsigned> stateBits(const std::vector<platform::State>& states) {
 
 FakeApplication::FakeApplication(const QDBusConnection& connection, QThread& server)
     : connection_(connection)
-    , responder_(connection, server, [this](const QDBusMessage& call) { return answer(call); }) {}
+    , responder_(
+          connection, [this](const QDBusMessage& call) { return answer(call); }, &server) {}
 
 void FakeApplication::set(const QString& path, const FakeObject& object) {
     const QMutexLocker locker(&mutex_);

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "platform/linux/Responder.h"
 #include "platform/linux/atspi/FakeObject.h"
 #include "platform/linux/atspi/ObjectReference.h"
-#include "platform/linux/atspi/Responder.h"
 
 #include <QMutex>
 

@@ -34,8 +34,8 @@ public:
     FakeApplication application{bus_.connect(), server_};
 
 private:
-    Responder services_{launcher_, server_,
-                        [this](const QDBusMessage& call) { return answer(call); }};
+    Responder services_{launcher_, [this](const QDBusMessage& call) { return answer(call); },
+                        &server_};
 };
 
 } // namespace fakes

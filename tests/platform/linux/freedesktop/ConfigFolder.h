@@ -14,7 +14,9 @@ public:
 
     QString path(const QString& name) const { return folder_.filePath(name); }
 
+    /// Makes the folders on the way.
     void write(const QString& name, const QByteArray& contents) const {
+        QDir().mkpath(path(name).section(u'/', 0, -2));
         QFile file(path(name));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         ASSERT_EQ(file.write(contents), contents.size());

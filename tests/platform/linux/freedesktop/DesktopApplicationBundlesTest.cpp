@@ -1,9 +1,6 @@
 #include "platform/linux/freedesktop/DesktopApplicationBundles.h"
+#include "ConfigFolder.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
@@ -15,11 +12,8 @@ class DesktopApplicationBundlesTest : public testing::Test {
 protected:
     /// Writes a file into one of the folders; its path.
     QString write(const QString& folder, const QString& name, const QByteArray& contents) {
-        QDir().mkpath(folder);
-        const QString path = folder + QLatin1Char('/') + name;
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(contents);
+        const QString path = folder + u'/' + name;
+        root.write(QDir(root.path({})).relativeFilePath(path), contents);
         return path;
     }
 
@@ -30,10 +24,10 @@ protected:
                      "[Desktop Entry]\nType=Application\nName=Notes\nExec=true\n" + keys);
     }
 
-    QTemporaryDir root;
-    const QString local = root.filePath(u"local"_s);
-    const QString system = root.filePath(u"system"_s);
-    const QString user = root.filePath(u"user"_s);
+    fakes::ConfigFolder root;
+    const QString local = root.path(u"local"_s);
+    const QString system = root.path(u"system"_s);
+    const QString user = root.path(u"user"_s);
     DesktopApplicationBundles bundles{
         {{local, system}, user}, {u"de_AT"_s, u"de"_s}, {u"GNOME"_s, u"XFCE"_s}};
 };

@@ -1,11 +1,7 @@
 #include "platform/linux/freedesktop/DesktopEntryIndex.h"
+#include "ConfigFolder.h"
 #include "fakes/VirtualRunLoop.h"
 #include "platform/linux/freedesktop/ApplicationFolders.h"
-
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 #include <filesystem>
 
@@ -18,14 +14,9 @@ namespace {
 class DesktopEntryIndexTest : public testing::Test {
 protected:
     void install(const QString& name, const QByteArray& keys = {}) {
-        const QString path = folder_.filePath(name);
-        QDir().mkpath(path.section(u'/', 0, -2));
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("[Desktop Entry]\nType=Application\n" + keys);
-        file.close();
+        folder_.write(name, "[Desktop Entry]\nType=Application\n" + keys);
         // Folders keep their times in steps that two changes in a row may share.
-        const auto folder = std::filesystem::path(folder_.path().toStdString());
+        const auto folder = std::filesystem::path(folder_.path({}).toStdString());
         std::filesystem::last_write_time(folder, std::filesystem::last_write_time(folder) +
                                                      std::chrono::seconds(++changes_));
     }
@@ -35,10 +26,10 @@ protected:
         return table && table->withId(QString::fromLatin1(id)) != nullptr;
     }
 
-    QTemporaryDir folder_;
+    fakes::ConfigFolder folder_;
     int changes_ = 0;
     fakes::VirtualRunLoop runLoop_;
-    DesktopEntryIndex index_{runLoop_, {folder_.path(), u"/no/such/folder"_s}, {}};
+    DesktopEntryIndex index_{runLoop_, {folder_.path({}), u"/no/such/folder"_s}, {}};
 };
 
 } // namespace
@@ -69,7 +60,7 @@ TEST_F(DesktopEntryIndexTest, ReadsAgainWhenAFolderChangedAndAnswersMeanwhile) {
     EXPECT_TRUE(knows("notes"));
     runLoop_.finishBackgroundWork();
     EXPECT_TRUE(knows("mail"));
-    QFile::remove(folder_.filePath(u"notes.desktop"_s));
+    QFile::remove(folder_.path(u"notes.desktop"_s));
     install(u"mail.desktop"_s, "Hidden=true\n");
     index_.current();
     runLoop_.finishBackgroundWork();
@@ -85,7 +76,7 @@ TEST_F(DesktopEntryIndexTest, WhoCannotWaitForTheMainThreadReadsAtOnce) {
 
 TEST_F(DesktopEntryIndexTest, AReadThatEndsAfterTheIndexIsGoneIsDropped) {
     {
-        DesktopEntryIndex gone(runLoop_, {folder_.path()}, {});
+        DesktopEntryIndex gone(runLoop_, {folder_.path({})}, {});
         gone.current();
     }
     runLoop_.finishBackgroundWork();

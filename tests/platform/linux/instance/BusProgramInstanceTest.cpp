@@ -1,11 +1,11 @@
 #include "platform/linux/freedesktop/BusProgramInstance.h"
 
 #include "PrivateBus.h"
+#include "Responder.h"
 #include "fakes/Eventually.h"
 
-#include <QDBusContext>
-#include <QDBusMessage>
 #include <QDBusPendingReply>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 #include <future>
@@ -22,36 +22,6 @@ using Kind = platform::InstanceRequest::Kind;
 namespace {
 
 const QString programName = u"com.corvane.Quillet"_s;
-
-/// Owns the program's name and, when it is activated, ends instead of answering.
-class EndingOwner : public QObject, protected QDBusContext {
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
-
-public:
-    explicit EndingOwner(fakes::PrivateBus& bus)
-        : bus_(bus)
-        , connection_(bus.connect()) {
-        connection_.registerObject(u"/com/corvane/Quillet"_s, this,
-                                   QDBusConnection::ExportScriptableInvokables);
-        connection_.registerService(programName);
-    }
-
-    Q_SCRIPTABLE void Activate(const QVariantMap&) {
-        setDelayedReply(true);
-        QMetaObject::invokeMethod(this, &EndingOwner::end, Qt::QueuedConnection);
-    }
-
-private:
-    void end() {
-        bus_.disconnect(connection_);
-        // Whoever holds a connection keeps it open.
-        connection_ = QDBusConnection(u"no such connection"_s);
-    }
-
-    fakes::PrivateBus& bus_;
-    QDBusConnection connection_;
-};
 
 class BusProgramInstanceTest : public testing::Test {
 protected:
@@ -128,7 +98,18 @@ TEST_F(BusProgramInstanceTest, AStrangerWithTheNameIsReportedAtOnce) {
 }
 
 TEST_F(BusProgramInstanceTest, TakesOverFromAProgramThatEndsWithoutAnAnswer) {
-    const EndingOwner ending(bus);
+    auto owner = bus.connect();
+    std::optional<fakes::Responder> ending;
+    ending.emplace(owner, [&](const QDBusMessage&) {
+        QTimer::singleShot(0, qApp, [&] {
+            ending.reset();
+            bus.disconnect(owner);
+            // Whoever holds a connection keeps it open.
+            owner = QDBusConnection(u"no such connection"_s);
+        });
+        return QDBusMessage();
+    });
+    ASSERT_TRUE(owner.registerService(programName));
     EXPECT_EQ(outcome(start(Kind::Activate)), Claim::First);
 }
 
@@ -164,5 +145,3 @@ TEST_F(BusProgramInstanceTest, ActionsArriveInTheirOrderAndWaitWhileNobodyHandle
         (std::vector<InstanceRequest>{
             {Kind::Settings, id}, {Kind::Feedback, id}, {Kind::Activate, id}, {Kind::Quit, id}}));
 }
-
-#include "BusProgramInstanceTest.moc"

@@ -1,8 +1,10 @@
 #include "platform/linux/freedesktop/StatusNotifierHost.h"
 
 #include "PrivateBus.h"
+#include "Responder.h"
 #include "fakes/Eventually.h"
 
+#include <QDBusVariant>
 #include <QElapsedTimer>
 #include <gtest/gtest.h>
 
@@ -15,41 +17,34 @@ using platform::StatusNotifierHost;
 namespace {
 
 /// A watcher as the desktops have it, on a connection of its own.
-class Watcher : public QObject {
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
-    Q_PROPERTY(bool IsStatusNotifierHostRegistered READ hasHost)
-
+class Watcher {
 public:
-    Watcher(fakes::PrivateBus& bus, bool hostRegistered)
-        : hasHost_(hostRegistered)
-        , bus_(bus)
-        , connection_(bus.connect()) {
-        connection_.registerObject(u"/StatusNotifierWatcher"_s, this,
-                                   QDBusConnection::ExportAllContents);
-        connection_.registerService(u"org.kde.StatusNotifierWatcher"_s);
+    Watcher(fakes::PrivateBus& bus, bool hasHost)
+        : bus_(bus)
+        , hasHost_(hasHost) {
+        connection_.registerService(name_);
     }
-    ~Watcher() override { bus_.disconnect(connection_); }
+    ~Watcher() { bus_.disconnect(connection_); }
 
-    bool hasHost() const {
-        ++questions;
-        return hasHost_;
-    }
     void setHost(bool registered) {
         hasHost_ = registered;
-        registered ? StatusNotifierHostRegistered() : StatusNotifierHostUnregistered();
+        connection_.send(QDBusMessage::createSignal(
+            u"/StatusNotifierWatcher"_s, name_,
+            registered ? u"StatusNotifierHostRegistered"_s : u"StatusNotifierHostUnregistered"_s));
     }
 
-    mutable int questions = 0;
-
-Q_SIGNALS:
-    void StatusNotifierHostRegistered();
-    void StatusNotifierHostUnregistered();
+    int questions = 0;
 
 private:
-    bool hasHost_;
+    const QString name_ = u"org.kde.StatusNotifierWatcher"_s;
     fakes::PrivateBus& bus_;
-    QDBusConnection connection_;
+    bool hasHost_;
+    QDBusConnection connection_ = bus_.connect();
+    fakes::Responder responder_{connection_, [this](const QDBusMessage& question) {
+                                    ++questions;
+                                    return question.createReply(
+                                        QVariant::fromValue(QDBusVariant(hasHost_)));
+                                }};
 };
 
 } // namespace
@@ -91,5 +86,3 @@ TEST(StatusNotifierHost, WithoutABusThereIsNoHost) {
     const StatusNotifierHost host(QDBusConnection(u"no such connection"_s));
     EXPECT_FALSE(host.isThere());
 }
-
-#include "StatusNotifierHostTest.moc"

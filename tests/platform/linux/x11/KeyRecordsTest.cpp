@@ -1,5 +1,4 @@
 #include "../keyboard/Keymaps.h"
-#include "platform/linux/x11/HeldModifiers.h"
 #include "platform/linux/x11/ShortcutChord.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +8,6 @@
 namespace flags = platform::modifierFlags;
 
 using platform::KeyDirection;
-using platform::KeySet;
 using platform::KeyStroke;
 using platform::ModifierMapping;
 
@@ -59,28 +57,6 @@ TEST(ShortcutChord, AvoidsModifierKeysThatTogetherDoSomethingElse) {
     EXPECT_EQ(modifiersPressed("grp:alt_shift_toggle"), Pair({leftControl, leftShift}));
     EXPECT_EQ(modifiersPressed("grp:lctrl_lshift_toggle"), Pair({leftControl, rightShift}));
     EXPECT_EQ(modifiersPressed("grp:ctrl_shift_toggle"), std::nullopt);
-}
-
-TEST(HeldModifiers, CountKeysOfBothSidesThatWereDownBeforeOrWentDownSince) {
-    platform::HeldModifiers held(mapping(), KeySet().set(rightControl));
-    const auto press = [&](platform::ScanCode key) {
-        return held.handle({key, KeyDirection::Down});
-    };
-    const auto flagsOfB = [&] {
-        return press(keyB).value_or(platform::KeyDownEvent{}).modifierFlags;
-    };
-
-    EXPECT_EQ(flagsOfB(), flags::command);
-    EXPECT_EQ(press(leftControl), std::nullopt);
-    EXPECT_EQ(press(leftAlt), std::nullopt);
-    EXPECT_EQ(held.handle({rightControl, KeyDirection::Up}), std::nullopt);
-    EXPECT_EQ(flagsOfB(), flags::command | flags::option);
-    EXPECT_EQ(press(capsLock), std::nullopt);
-    EXPECT_EQ(held.handle({leftControl, KeyDirection::Up}), std::nullopt);
-    EXPECT_EQ(flagsOfB(), flags::option);
-    EXPECT_EQ(held.handle({keyB, KeyDirection::Up}), std::nullopt);
-    // A key without a virtual key code.
-    EXPECT_EQ(press(172), std::nullopt);
 }
 
 TEST(OwnKeyStrokes, AreToldFromTheUsersByTheirRequest) {

@@ -64,10 +64,13 @@ TEST_F(WatchingTest, SeesKeysWithTheirModifiersWhileAnotherProgramHoldsAGrab) {
                                 nullptr));
     ASSERT_TRUE(grab && grab->status == XCB_GRAB_STATUS_SUCCESS);
     user.tap(keyB);
+    user.tap(playKey); // it has no name
     user.press(rightControl);
+    user.press(leftControl);
     user.press(leftAlt);
-    user.tap(keyB);
     user.release(rightControl);
+    user.tap(keyB);
+    user.release(leftControl);
     user.press(leftSuper);
     user.press(rightShift);
     user.tap(escapeKey);

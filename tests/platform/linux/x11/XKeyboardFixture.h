@@ -24,6 +24,7 @@ inline constexpr platform::ScanCode capsLock = 66;
 inline constexpr platform::ScanCode numLock = 77;
 inline constexpr platform::ScanCode rightControl = 105;
 inline constexpr platform::ScanCode leftSuper = 133;
+inline constexpr platform::ScanCode playKey = 172;
 
 using Keys = std::vector<std::string>;
 

@@ -9,17 +9,18 @@
 
 namespace fakes {
 
-/// Answers whatever is asked over a connection, in the thread of the server: the one who asks waits
-/// for the answer in the test's own.
+/// Answers whatever is asked over a connection, in a thread of its own where the one who asks waits
+/// for the answer in the test's.
 class Responder final : public QDBusVirtualObject {
 public:
     /// `answer` may give an invalid message: then there is no answer at all.
-    Responder(const QDBusConnection& connection, QThread& server,
-              std::function<QDBusMessage(const QDBusMessage&)> answer)
+    Responder(const QDBusConnection& connection,
+              std::function<QDBusMessage(const QDBusMessage&)> answer,
+              QThread* server = QThread::currentThread())
         : connection_(connection)
         , answer_(std::move(answer)) {
         connection_.registerVirtualObject(QStringLiteral("/"), this, QDBusConnection::SubPath);
-        moveToThread(&server);
+        moveToThread(server);
     }
     ~Responder() override {
         connection_.unregisterObject(QStringLiteral("/"), QDBusConnection::UnregisterTree);
