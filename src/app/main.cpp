@@ -9,6 +9,7 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
+#include <cstdio>
 #include <cstdlib>
 #include <utility>
 
@@ -16,7 +17,12 @@ using platform::InstanceRequest;
 using platform::ProgramInstance;
 
 int main(int argc, char** argv) {
-    const InstanceRequest::Kind asked = app::requestOf({argv + 1, argv + argc});
+    const auto launch = app::launchOf({argv + 1, argv + argc});
+    if (const auto* answer = std::get_if<app::LaunchAnswer>(&launch)) {
+        std::fputs(answer->words.c_str(), answer->status == EXIT_SUCCESS ? stdout : stderr);
+        return answer->status;
+    }
+    const auto asked = std::get<InstanceRequest::Kind>(launch);
     auto instance = platform::makeProgramInstance();
     switch (instance->claim(asked)) {
     case ProgramInstance::Claim::First:
