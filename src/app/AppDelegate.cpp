@@ -136,6 +136,8 @@ void AppDelegate::checkAccessibility() {
     if (!platform_.workspace->openUrl(QUrl(QStringLiteral(
             "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility")))) {
         core::log(u"this desktop has no accessibility settings to open");
+        // Else the user could not grant it before the next start.
+        platform_.accessibility->isProcessTrusted(platform::TrustPrompt::Shown);
     }
 }
 

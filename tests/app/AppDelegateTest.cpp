@@ -297,4 +297,9 @@ TEST_F(AppDelegateTest, OffersTheSystemsSettingsWithoutAccess) {
                        "Privacy & Security > Accessibility."));
     EXPECT_EQ(alert.buttons,
               (QStringList{QStringLiteral("Open System Settings"), QStringLiteral("Cancel")}));
+
+    EXPECT_EQ(fakes.accessibility.trustQuestions.back(), platform::TrustPrompt::Hidden);
+    fakes.workspace.opens = false;
+    entry(4).trigger();
+    EXPECT_EQ(fakes.accessibility.trustQuestions.back(), platform::TrustPrompt::Shown);
 }

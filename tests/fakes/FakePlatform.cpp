@@ -81,7 +81,7 @@ void FakeWorkspace::activate(const platform::RunningApplication& application) {
 
 bool FakeWorkspace::openUrl(const QUrl& url) {
     opened.push_back(url);
-    return true;
+    return opens;
 }
 
 std::unique_ptr<platform::EventSource>

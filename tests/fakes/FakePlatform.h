@@ -73,6 +73,7 @@ struct FakeWorkspace final : platform::Workspace {
     std::optional<platform::RunningApplication> frontmost;
     std::vector<platform::RunningApplication> running;
     std::vector<QUrl> opened;
+    bool opens = true;
 
     std::optional<platform::RunningApplication> frontmostApplication() override {
         return frontmost;

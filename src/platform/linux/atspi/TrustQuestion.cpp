@@ -25,7 +25,9 @@ void TrustQuestion::ask(std::function<void()> agreed) {
         "service, which is switched off.\n\n"
         "Switching it on lets every program of yours read the windows of your applications. It "
         "stays on until you switch it off in the desktop's accessibility settings.\n\n"
-        "Start Corvane Quillet again afterwards, and any application that does not answer yet."));
+        "Afterwards quit Corvane Quillet and start it again, and likewise any application that "
+        "does "
+        "not answer yet."));
     auto* switchOn = question_->addButton(QStringLiteral("Switch On"), QMessageBox::AcceptRole);
     auto* notNow = question_->addButton(QStringLiteral("Not Now"), QMessageBox::RejectRole);
     switchOn->setObjectName(QStringLiteral("switchOn"));
