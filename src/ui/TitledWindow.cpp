@@ -9,6 +9,7 @@
 #include <QIcon>
 #include <QPainter>
 #include <QScreen>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace ui {
@@ -21,6 +22,8 @@ TitledWindow::TitledWindow(const QString& title, QSize contentSize)
     // None where the program is not installed.
     setWindowIcon(QIcon::fromTheme(core::programIdentifier()));
     setFixedSize(contentSize);
+    auto* close = new QShortcut(QKeySequence::Close, this);
+    connect(close, &QShortcut::activated, this, &QWidget::close);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
 }

@@ -4,8 +4,8 @@
 
 namespace ui {
 
-/// A window with a title and a close button, as large as it was made. Closing hides it; the program
-/// goes on. It is centred on its screen when it is first shown.
+/// A window with a title and a close button, as large as it was made. Closing, by Control+W too,
+/// hides it; the program goes on. It is centred on its screen when it is first shown.
 class TitledWindow final : public QWidget {
 public:
     TitledWindow(const QString& title, QSize contentSize);

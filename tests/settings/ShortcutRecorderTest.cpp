@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QTest>
 #include <gmock/gmock.h>
 
 namespace {
@@ -99,6 +100,19 @@ TEST_F(ShortcutRecorder, PassesKeysOnWhileIdleButNoModifierAlone) {
     press({Qt::Key_Escape});
     EXPECT_EQ(window.presses, 2);
     EXPECT_EQ(stored(), std::pair(std::uint16_t{0}, std::uint64_t{0x100000}));
+}
+
+TEST_F(ShortcutRecorder, RecordsTheShortcutThatElseClosesTheWindow) {
+    fake_.keyPositions[0] = 13;
+    const auto press = [this] {
+        QTest::keyClick(window_->windowHandle(), Qt::Key_W, Qt::ControlModifier);
+    };
+    click(recorder);
+    press();
+    EXPECT_EQ(stored(), std::pair(std::uint16_t{13}, std::uint64_t{0x100000}));
+    EXPECT_TRUE(window_->isVisible());
+    press();
+    EXPECT_FALSE(window_->isVisible());
 }
 
 TEST_F(ShortcutRecorder, WritesTheKeyThenTheModifiersThenThatItIsDone) {
