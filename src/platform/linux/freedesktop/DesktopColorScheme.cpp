@@ -58,6 +58,8 @@ QPalette darkened(QPalette palette) {
     palette.setColor(QPalette::Midlight, button.lighter(115));
     palette.setColor(QPalette::Mid, base.lighter(115));
     palette.setColor(QPalette::Dark, base);
+    // Menus draw the words of a disabled entry a second time, in this colour, as an engraved edge.
+    palette.setColor(QPalette::Disabled, QPalette::Light, base);
     palette.setColor(QPalette::Shadow, Qt::black);
     return palette;
 }
