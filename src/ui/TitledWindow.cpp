@@ -1,12 +1,11 @@
 #include "ui/TitledWindow.h"
 
-#include "core/ProgramIdentity.h"
+#include "platform/qt/ProgramIcon.h"
 #include "ui/AccessibleRole.h"
 #include "ui/Theme.h"
 
 #include <QApplication>
 #include <QEvent>
-#include <QIcon>
 #include <QPainter>
 #include <QScreen>
 #include <QShortcut>
@@ -19,8 +18,7 @@ TitledWindow::TitledWindow(const QString& title, QSize contentSize)
                            Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint) {
     setAccessibleRole(*this, QAccessible::Window);
     setWindowTitle(title);
-    // None where the program is not installed.
-    setWindowIcon(QIcon::fromTheme(core::programIdentifier()));
+    setWindowIcon(platform::programIcon());
     setFixedSize(contentSize);
     auto* close = new QShortcut(QKeySequence::Close, this);
     connect(close, &QShortcut::activated, this, &QWidget::close);

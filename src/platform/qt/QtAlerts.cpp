@@ -1,6 +1,7 @@
 #include "platform/qt/QtAlerts.h"
 
 #include "core/Fatal.h"
+#include "platform/qt/ProgramIcon.h"
 
 #include <QMessageBox>
 #include <QPushButton>
@@ -43,6 +44,7 @@ int QtAlerts::runModal(const Alert& alert) {
     // not cover it.
     box.setWindowFlag(Qt::WindowStaysOnTopHint);
     box.setWindowTitle(QStringLiteral("Corvane Quillet"));
+    box.setWindowIcon(programIcon());
     box.setIcon(icon(alert.style));
     box.setTextFormat(Qt::RichText);
     box.setText(QStringLiteral("<b>%1</b>").arg(alert.messageText.toHtmlEscaped()));

@@ -1,5 +1,7 @@
 #include "platform/linux/atspi/TrustQuestion.h"
 
+#include "platform/qt/ProgramIcon.h"
+
 #include <QPushButton>
 
 namespace platform {
@@ -17,6 +19,7 @@ void TrustQuestion::ask(std::function<void()> agreed) {
                                 QStringLiteral("Switch on accessibility for this desktop?"),
                                 QMessageBox::NoButton);
     question_->setObjectName(QStringLiteral("trustQuestion"));
+    question_->setWindowIcon(programIcon());
     question_->setAttribute(Qt::WA_DeleteOnClose);
     question_->setTextFormat(Qt::PlainText);
     question_->setInformativeText(QStringLiteral(
@@ -26,8 +29,7 @@ void TrustQuestion::ask(std::function<void()> agreed) {
         "Switching it on lets every program of yours read the windows of your applications. It "
         "stays on until you switch it off in the desktop's accessibility settings.\n\n"
         "Afterwards quit Corvane Quillet and start it again, and likewise any application that "
-        "does "
-        "not answer yet."));
+        "does not answer yet."));
     auto* switchOn = question_->addButton(QStringLiteral("Switch On"), QMessageBox::AcceptRole);
     auto* notNow = question_->addButton(QStringLiteral("Not Now"), QMessageBox::RejectRole);
     switchOn->setObjectName(QStringLiteral("switchOn"));
