@@ -24,10 +24,18 @@ QList<unsigned> stateBits(const std::vector<platform::State>& states) {
 
 } // namespace
 
-FakeApplication::FakeApplication(const QDBusConnection& connection, QThread& server)
-    : connection_(connection)
-    , responder_(
-          connection, [this](const QDBusMessage& call) { return answer(call); }, &server) {}
+void FakeApplication::join(const QDBusConnection& connection, QThread& server) {
+    connection_ = connection;
+    responder_.emplace(
+        connection, [this](const QDBusMessage& call) { return answer(call); }, &server);
+}
+
+void FakeApplication::leave() {
+    responder_.reset();
+    QDBusConnection::disconnectFromBus(connection_.name());
+    // The bus notices when the last reference goes.
+    connection_ = QDBusConnection(QString());
+}
 
 void FakeApplication::set(const QString& path, const FakeObject& object) {
     const QMutexLocker locker(&mutex_);

@@ -13,7 +13,10 @@ namespace fakes {
 /// An application on the accessibility bus, made of a table of objects.
 class FakeApplication {
 public:
-    FakeApplication(const QDBusConnection& connection, QThread& server);
+    /// Joins a bus, after the first time as another run of the program.
+    void join(const QDBusConnection& connection, QThread& server);
+    /// Leaves the bus. Nobody may be asking meanwhile.
+    void leave();
 
     platform::ObjectReference reference(const QString& path) const {
         return {connection_.baseService(), path};
@@ -36,11 +39,11 @@ private:
                                const QVariantList& arguments);
     QVariant references(const QStringList& paths) const;
 
-    QDBusConnection connection_;
+    QDBusConnection connection_{QString()};
     mutable QMutex mutex_;
     QMap<QString, FakeObject> objects_;
     std::optional<QStringList> searchAnswer_;
-    Responder responder_;
+    std::optional<Responder> responder_;
 };
 
 } // namespace fakes

@@ -6,6 +6,7 @@ namespace fakes {
 
 FakeDesktop::FakeDesktop() {
     platform::registerWireTypes();
+    startApplication();
     server_.start();
     launcher_.registerService(QStringLiteral("org.a11y.Bus"));
     launcher_.registerService(QStringLiteral("org.a11y.atspi.Registry"));
@@ -15,6 +16,13 @@ FakeDesktop::~FakeDesktop() {
     // Nobody may be answering while the rest goes.
     server_.quit();
     server_.wait();
+}
+
+void FakeDesktop::endApplication() {
+    server_.quit();
+    server_.wait();
+    application.leave();
+    server_.start();
 }
 
 QDBusMessage FakeDesktop::answer(const QDBusMessage& call) {

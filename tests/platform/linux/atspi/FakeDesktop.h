@@ -22,6 +22,10 @@ public:
     /// Whether the launcher knows a bus for accessibility.
     std::atomic<bool> hasAccessibilityBus = true;
 
+    FakeApplication application;
+    void startApplication() { application.join(bus_.connect(), server_); }
+    void endApplication();
+
 private:
     QDBusMessage answer(const QDBusMessage& call);
 
@@ -29,11 +33,6 @@ private:
     QDBusConnection session_ = bus_.connect();
     QDBusConnection launcher_ = bus_.connect();
     QThread server_;
-
-public:
-    FakeApplication application{bus_.connect(), server_};
-
-private:
     Responder services_{launcher_, [this](const QDBusMessage& call) { return answer(call); },
                         &server_};
 };

@@ -142,6 +142,17 @@ TEST_F(PollingTest, ABusThatStandsStillHoldsNobodyUp) {
     desktop.pauseBus(false);
 }
 
+TEST_F(PollingTest, AnApplicationThatQuitsAndItsSuccessor) {
+    showText(u"one"_s);
+    start();
+    ASSERT_TRUE(look().focused);
+    desktop.endApplication();
+    EXPECT_TRUE(eventually([this] { return !look().focused; }));
+    showText(u"next"_s);
+    desktop.startApplication();
+    EXPECT_TRUE(eventually([this] { return look().text == u"next"_s; }));
+}
+
 TEST_F(PollingTest, WhatWasNotGivenOutHereIsRefused) {
     showText(u"one"_s);
     start();

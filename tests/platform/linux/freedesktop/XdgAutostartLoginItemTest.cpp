@@ -58,6 +58,21 @@ TEST_F(XdgAutostartLoginItemTest, ReadsWhatTheDesktopsSwitchesWrite) {
     }
 }
 
+TEST_F(XdgAutostartLoginItemTest, QuotesTheExecutableAsLaunchersReadIt) {
+    // Escaped as a quoted argument, then as a value of the file.
+    const std::vector<std::pair<QString, std::string>> rows{
+        {u"/opt/my apps/q"_s, R"(Exec="/opt/my apps/q")"},
+        {u"/a\"b`c$d\\e"_s, R"(Exec="/a\\"b\\`c\\$d\\\\e")"},
+        {u"/two\nlines"_s, R"(Exec="/two\nlines")"},
+        {u"/100%u"_s, R"(Exec=nice -n 0 "/100%%u")"},
+        {u"/\u00e4/q"_s, "Exec=\"/\xc3\xa4/q\""},
+    };
+    for (const auto& [executable, line] : rows) {
+        ASSERT_EQ(item(executable).registerItem(), std::nullopt);
+        EXPECT_THAT(folder.read(entry).toStdString(), HasSubstr('\n' + line + '\n'));
+    }
+}
+
 TEST_F(XdgAutostartLoginItemTest, SaysWhyTheEntryCannotBeWritten) {
     folder.write(u"occupied"_s, "");
     auto login = XdgAutostartLoginItem(folder.path(u"occupied/q.desktop"_s), u"/usr/bin/quillet"_s);
