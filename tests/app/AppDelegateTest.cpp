@@ -145,21 +145,6 @@ TEST_F(AppDelegateTest, ASelectionBringsTheBarAndAClickPostsToWhereItWasMade) {
     EXPECT_EQ(count("order out"), 0);
 }
 
-TEST_F(AppDelegateTest, BodyTextAndRemoveFormattingPostTheSame) {
-    launch();
-    select(QStringLiteral("word"));
-    delegate->formattingBar()->onHeadingSelected(0);
-    delegate->formattingBar()->onFormatSelected(bar::TextFormat::removeFormatting);
-    delegate->formattingBar()->onHeadingSelected(2);
-    const auto& posted = fakes.keyboardEvents.posted;
-    ASSERT_EQ(posted.size(), 6U);
-    for (const std::size_t down : {0U, 2U}) {
-        EXPECT_EQ(posted[down].keyCode, 11);
-        EXPECT_EQ(posted[down].flags, commandShift);
-    }
-    EXPECT_EQ(posted[4].keyCode, 4);
-}
-
 TEST_F(AppDelegateTest, TheColourChoiceOpensTheTargetsColoursAndPlacesThePanel) {
     launch();
     select(QStringLiteral("word"));
@@ -170,31 +155,6 @@ TEST_F(AppDelegateTest, TheColourChoiceOpensTheTargetsColoursAndPlacesThePanel) 
     EXPECT_TRUE(fakes.colorPanel.modes.empty());
     fakes.runLoop.advance(0.3);
     EXPECT_EQ(fakes.colorPanel.modes.size(), 1U);
-}
-
-TEST_F(AppDelegateTest, DeselectingHidesTheBarAfterAMomentUnlessANewSelectionComes) {
-    launch();
-    select(QStringLiteral("word"));
-    delegate->notesMonitor()->onSelectionChanged(false, Rect{});
-    fakes.runLoop.advance(0.2);
-    delegate->notesMonitor()->onSelectionChanged(true, Rect{10, 10, 20, 20});
-    fakes.runLoop.advance(1);
-    EXPECT_TRUE(barIsVisible());
-    delegate->notesMonitor()->onSelectionChanged(false, Rect{});
-    fakes.runLoop.advance(0.29);
-    EXPECT_TRUE(barIsVisible());
-    fakes.runLoop.advance(0.01);
-    EXPECT_FALSE(barIsVisible());
-}
-
-TEST_F(AppDelegateTest, ThePollRestsWhileTheMenuIsOpen) {
-    launch();
-    Q_EMIT fakes.statusItem.menu->aboutToShow();
-    select(QStringLiteral("word"));
-    EXPECT_EQ(fakes.accessibility.calls, 0);
-    Q_EMIT fakes.statusItem.menu->aboutToHide();
-    fakes.runLoop.advance(0.25);
-    EXPECT_GT(fakes.accessibility.calls, 0);
 }
 
 TEST_F(AppDelegateTest, ReportsAndClicksThatOutliveTheDelegateChangeNothing) {
@@ -216,6 +176,8 @@ TEST_F(AppDelegateTest, ReportsAndClicksThatOutliveTheDelegateChangeNothing) {
 }
 
 TEST_F(AppDelegateTest, TerminationStopsThePollAndHidesTheBar) {
+    delegate->applicationWillTerminate(); // before the launch there is nothing to do
+    EXPECT_TRUE(fakes.record.empty());
     launch();
     select(QStringLiteral("word"));
     EXPECT_TRUE(barIsVisible());
@@ -224,11 +186,6 @@ TEST_F(AppDelegateTest, TerminationStopsThePollAndHidesTheBar) {
     fakes.runLoop.advance(0.3);
     EXPECT_EQ(fakes.accessibility.calls, calls);
     EXPECT_FALSE(barIsVisible());
-}
-
-TEST_F(AppDelegateTest, TerminationBeforeTheLaunchDoesNothing) {
-    delegate->applicationWillTerminate();
-    EXPECT_TRUE(fakes.record.empty());
 }
 
 TEST_F(AppDelegateTest, EveryOpeningOfTheFeedbackFormStartsEmptyInTheSameWindow) {

@@ -7,7 +7,6 @@
 #include <QApplication>
 #include <QMenu>
 #include <QTimer>
-#include <QWidget>
 #include <gtest/gtest.h>
 
 TEST(CorvaneQuilletApp, RunsUntilQuitIsChosenAndTerminatesItsDelegate) {
@@ -31,21 +30,3 @@ TEST(CorvaneQuilletApp, RunsUntilQuitIsChosenAndTerminatesItsDelegate) {
     EXPECT_EQ(fakes.record.back(), "order out");
 }
 
-TEST(CorvaneQuilletApp, GoesOnWhenItsLastWindowIsClosed) {
-    fakes::FakePlatform fakes;
-    settings::AppSettingsManager settings(fakes.userDefaults, fakes.loginItem);
-    app::CorvaneQuilletApp application(
-        std::make_unique<app::AppDelegate>(fakes.platform, settings));
-    QWidget window;
-    bool wentOn = false;
-    QTimer::singleShot(0, qApp, [&] {
-        window.show();
-        window.close();
-        QTimer::singleShot(0, qApp, [&] {
-            wentOn = true;
-            QCoreApplication::quit();
-        });
-    });
-    application.run();
-    EXPECT_TRUE(wentOn);
-}

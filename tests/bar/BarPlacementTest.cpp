@@ -17,34 +17,28 @@ constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 // A panel of 40 points at the bottom and one of 25 at the top.
 constexpr Screen screen{{0, 0, 1920, 1080}, {0, 40, 1920, 1015}};
 
-struct Case {
-    const char* name;
-    Rect selection;
-    Point origin;
-};
-
-class BarPlacement : public testing::TestWithParam<Case> {};
-
-TEST_P(BarPlacement, StaysNearTheSelectionInsideTheVisibleFrame) {
-    EXPECT_EQ(bar::barOrigin(GetParam().selection, screen), GetParam().origin);
+TEST(BarPlacement, StaysNearTheSelectionInsideTheVisibleFrame) {
+    struct Case {
+        const char* where;
+        Rect selection;
+        Point origin;
+    };
+    // The bar's bottom edge can be at most 1055 - 8 - 44 = 1003.
+    for (const auto& [where, selection, origin] :
+         {Case{"in the middle", {400, 500, 90, 18}, {400, 526}},
+          Case{"as thin as a caret", {400, 500, 0, 18}, {400, 526}},
+          Case{"touching the top margin", {400, 977, 90, 18}, {400, 1003}},
+          Case{"just too high", {400, 977.5, 90, 18}, {400, 925.5}},
+          Case{"under the top panel", {400, 1060, 90, 18}, {400, 1003}},
+          Case{"at the right edge", {1900, 500, 20, 18}, {1252, 526}},
+          Case{"at the left edge", {0, 500, 20, 18}, {8, 526}},
+          Case{"filling the screen", {0, 0, 1920, 1080}, {8, 48}},
+          Case{"under the bottom panel", {400, 0, 90, 18}, {400, 48}},
+          Case{"no numbers", {notANumber, notANumber, notANumber, notANumber}, {1252, 1003}},
+          Case{"beyond 16 bits", {1e9, -1e9, 5, 5}, {1252, 48}}}) {
+        EXPECT_EQ(bar::barOrigin(selection, screen), origin) << where;
+    }
 }
-
-// The bar's bottom edge can be at most 1055 - 8 - 44 = 1003.
-INSTANTIATE_TEST_SUITE_P(
-    Selections, BarPlacement,
-    testing::Values(
-        Case{"InTheMiddle", {400, 500, 90, 18}, {400, 526}},
-        Case{"AsThinAsACaret", {400, 500, 0, 18}, {400, 526}},
-        Case{"TouchingTheTopMargin", {400, 977, 90, 18}, {400, 1003}},
-        Case{"JustTooHigh", {400, 977.5, 90, 18}, {400, 925.5}},
-        Case{"UnderTheTopPanel", {400, 1060, 90, 18}, {400, 1003}},
-        Case{"AtTheRightEdge", {1900, 500, 20, 18}, {1252, 526}},
-        Case{"AtTheLeftEdge", {0, 500, 20, 18}, {8, 526}},
-        Case{"FillingTheScreen", {0, 0, 1920, 1080}, {8, 48}},
-        Case{"UnderTheBottomPanel", {400, 0, 90, 18}, {400, 48}},
-        Case{"NoNumbers", {notANumber, notANumber, notANumber, notANumber}, {1252, 1003}},
-        Case{"Beyond16Bits", {1e9, -1e9, 5, 5}, {1252, 48}}),
-    [](const auto& selection) { return std::string(selection.param.name); });
 
 TEST(BarPlacementOddScreens, TheLeftAndTheBottomMarginWinOnAScreenTooSmall) {
     const Screen tiny{{100, 100, 500, 50}, {100, 100, 500, 50}};

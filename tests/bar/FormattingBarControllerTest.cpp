@@ -26,18 +26,6 @@ TEST_F(FormattingBarController, MakesItsWindowAtTheFirstShowingAndKeepsItAtFullW
     EXPECT_EQ(fake_.record, (fakes::Record{"make floating", "order front", "order front"}));
 }
 
-TEST_F(FormattingBarController, ReservesTheFullWidthAlreadyAtTheFirstShowing) {
-    controller_->show({1900, 500, 20, 18});
-    EXPECT_EQ(frame(), (Rect{1252, 526, 590, 44}));
-}
-
-TEST_F(FormattingBarController, WorksWithoutAnyScreen) {
-    fake_.screens.all.clear();
-    fake_.screens.main.reset();
-    controller_->show({-5000, 9000, 20, 18});
-    EXPECT_EQ(frame(), (Rect{-5000, 9026, 590, 44}));
-}
-
 TEST_F(FormattingBarController, HidesAfterItsGraceAndKeepsTheWindow) {
     show();
     controller_->hide();

@@ -99,22 +99,6 @@ TEST_F(FormattingBarView, NamesEveryControlForThePointerAndForAssistiveTechnolog
     EXPECT_TRUE(window().testAttribute(Qt::WA_AlwaysShowToolTips));
 }
 
-TEST_F(FormattingBarView, ReportsExactlyTheFormatOfEachIcon) {
-    show(2);
-    for (const Control& control : controls) {
-        reports_.clear();
-        click(window(), control.name);
-        const QString title = QString::fromLatin1(control.tooltip);
-        if (title == QStringLiteral("Heading")) {
-            EXPECT_TRUE(reports_.empty());
-        } else {
-            const auto expected =
-                title == QStringLiteral("Text Color") ? QStringLiteral("colour") : title;
-            EXPECT_EQ(reports_, std::vector{expected});
-        }
-    }
-}
-
 TEST_F(FormattingBarView, IsCutOffEvenlyInItsFirstWindowAndWhatIsLeftCanBeClicked) {
     show();
     ASSERT_EQ(window().size(), QSize(590, 44));
@@ -173,15 +157,6 @@ TEST_F(FormattingBarView, TheColourButtonRunsThroughTheRainbow) {
     };
     EXPECT_NEAR(pixel(window(), {left, y}).hueF(), hueOf(ui::Color::Red), 0.05);
     EXPECT_NEAR(hue, hueOf(ui::Color::Purple), 0.05);
-}
-
-TEST_F(FormattingBarView, AButtonLetGoOutsideReportsNothing) {
-    show(2);
-    QTest::mousePress(window().windowHandle(), Qt::LeftButton, {},
-                      place(window(), "bold").center());
-    QTest::mouseRelease(window().windowHandle(), Qt::LeftButton, {},
-                        place(window(), "link").center());
-    EXPECT_TRUE(reports_.empty());
 }
 
 } // namespace

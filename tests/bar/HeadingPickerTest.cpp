@@ -26,18 +26,6 @@ protected:
     }
 };
 
-TEST_F(HeadingPicker, OpensAndClosesByItsButtonAndReportsNothing) {
-    show(2);
-    EXPECT_FALSE(hasWindow("textformat.size.popover"));
-    open();
-    EXPECT_TRUE(isOpen());
-    open();
-    EXPECT_FALSE(isOpen());
-    open();
-    EXPECT_TRUE(isOpen());
-    EXPECT_TRUE(reports_.empty());
-}
-
 TEST_F(HeadingPicker, HangsWithItsArrowOnTheButtonsBottomEdgeAndFollowsTheBar) {
     show(2);
     open();

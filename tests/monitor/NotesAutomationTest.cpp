@@ -45,57 +45,17 @@ protected:
 
 using NotesAutomationDeathTest = NotesAutomationTest;
 
-/// US keyboard: what the virtual key codes carry there, written down apart from the tables.
-std::int64_t keyLabelled(char label) {
-    static const std::map<char, std::int64_t> codes{
-        {'B', 0x0B}, {'I', 0x22}, {'U', 0x20}, {'X', 0x07}, {'M', 0x2E}, {'T', 0x11},
-        {'K', 0x28}, {'7', 0x1A}, {'8', 0x1C}, {'9', 0x19}, {'L', 0x25}, {'\'', 0x27},
-        {';', 0x29}, {'/', 0x2C}, {']', 0x1E}, {'H', 0x04}, {'J', 0x26}, {'C', 0x08},
-    };
-    return codes.at(label);
-}
-
-Shortcut command(char label) {
-    return {keyLabelled(label), 1U << 20};
-}
-
-Shortcut commandShift(char label) {
-    return {keyLabelled(label), (1U << 20) | (1U << 17)};
-}
-
 } // namespace
 
-TEST_F(NotesAutomationTest, EveryFormatAndHeadingLevelHasItsShortcut) {
-    const std::vector<std::pair<TextFormat, Shortcut>> formats{
-        {TextFormat::bold, command('B')},
-        {TextFormat::italic, command('I')},
-        {TextFormat::underline, command('U')},
-        {TextFormat::strikethrough, commandShift('X')},
-        {TextFormat::monospaced, commandShift('M')},
-        {TextFormat::heading, commandShift('T')},
-        {TextFormat::link, command('K')},
-        {TextFormat::bulletList, commandShift('7')},
-        {TextFormat::dashedList, commandShift('8')},
-        {TextFormat::numberedList, commandShift('9')},
-        {TextFormat::checklist, commandShift('L')},
-        {TextFormat::increaseIndent, command('\'')},
-        {TextFormat::decreaseIndent, command(';')},
-        {TextFormat::decreaseTextSize, command('/')},
-        {TextFormat::increaseTextSize, command(']')},
-        {TextFormat::removeFormatting, commandShift('B')},
-    };
-    ASSERT_EQ(formats.size(), bar::allTextFormats.size());
-    for (const auto& [format, shortcut] : formats) {
-        EXPECT_EQ(NotesAutomation::formatShortcut(format), shortcut)
-            << bar::rawValue(format).toStdString();
+/// Which keys each button and level posts is seen where they arrive, by the tests on a desktop.
+TEST_F(NotesAutomationTest, AHeadingLevelThatDoesNotExistIsBodyText) {
+    const Shortcut body = NotesAutomation::headingShortcut(0);
+    EXPECT_EQ(body, NotesAutomation::formatShortcut(TextFormat::removeFormatting));
+    for (const auto level : {4, -1, std::numeric_limits<bar::HeadingLevel>::min()}) {
+        EXPECT_EQ(NotesAutomation::headingShortcut(level), body) << level;
     }
-
-    constexpr auto smallest = std::numeric_limits<bar::HeadingLevel>::min();
-    const std::vector<std::pair<bar::HeadingLevel, char>> levels{
-        {1, 'T'}, {2, 'H'}, {3, 'J'}, {0, 'B'}, {4, 'B'}, {-1, 'B'}, {smallest, 'B'}};
-    for (const auto& [level, label] : levels) {
-        EXPECT_EQ(NotesAutomation::headingShortcut(level), commandShift(label)) << level;
-    }
+    EXPECT_EQ(NotesAutomation::formatShortcut(TextFormat::heading),
+              NotesAutomation::headingShortcut(1));
 }
 
 TEST_F(NotesAutomationTest, PostsTwoEventsATenthOfASecondAfterAskingTheTargetToTheFront) {

@@ -71,26 +71,6 @@ TEST_F(AppSettingsManagerTest, TheFirstStartStoresTheDefaults) {
                                }));
 }
 
-TEST_F(AppSettingsManagerTest, StoredValuesSurviveARestart) {
-    {
-        AppSettingsManager& store = start();
-        store.allowedApps =
-            QStringList{QStringLiteral("b"), QStringLiteral("a"), QStringLiteral("b")};
-        store.useAllApps = false;
-        store.appearanceDelay = 1.25;
-        store.useKeyboardShortcut = true;
-        store.shortcutKeyCode = std::uint16_t{65535};
-        store.shortcutModifiers = std::numeric_limits<std::uint64_t>::max();
-    }
-    const AppSettingsManager& again = start();
-    EXPECT_EQ(again.allowedApps.get().join(u','), QStringLiteral("b,a,b"));
-    EXPECT_FALSE(again.useAllApps);
-    EXPECT_EQ(again.appearanceDelay.get(), 1.25);
-    EXPECT_TRUE(again.useKeyboardShortcut);
-    EXPECT_EQ(again.shortcutKeyCode.get(), 65535);
-    EXPECT_EQ(again.shortcutModifiers.get(), std::numeric_limits<std::uint64_t>::max());
-}
-
 TEST_F(AppSettingsManagerTest, NumbersConvertWhereTheyKeepTheirValueAndStringsNever) {
     const std::vector<std::pair<DefaultsValue, bool>> booleans{
         {false, false},

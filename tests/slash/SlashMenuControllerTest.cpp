@@ -1,10 +1,7 @@
 #include "SlashMenuFixture.h"
 
-#include "slash/views/KeyboardHandlingView.h"
-
 #include <QCoreApplication>
 #include <QInputMethodEvent>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QScrollArea>
 #include <gmock/gmock.h>
@@ -84,22 +81,6 @@ TEST_F(SlashMenuController, TheMenuIsAsTallAsWhatMatchesAndKeepsItsTopEdge) {
     EXPECT_EQ(frame(), (Rect{300, 540, 320, 360}));
 }
 
-TEST_F(SlashMenuController, WithoutACompositorTheWindowHasTheMenusShape) {
-    fake_.windowServer.translucency = false;
-    show();
-    for (const char* search : {"", "list"}) {
-        type(search);
-        comeToRest();
-        const QRect whole = window().rect();
-        const QRegion shape = window().mask();
-        EXPECT_EQ(shape.boundingRect(), whole) << search;
-        for (const QPoint edge :
-             {whole.topLeft(), whole.topRight(), whole.bottomLeft(), whole.bottomRight()}) {
-            EXPECT_FALSE(shape.contains(edge)) << search;
-        }
-    }
-}
-
 TEST_F(SlashMenuController, EscapeHidesItAndItStartsAfresh) {
     show();
     press(Qt::Key_Down, 9);
@@ -177,27 +158,3 @@ TEST_F(SlashMenuController, AChoiceMayEndIt) {
     EXPECT_THAT(chosen_, ElementsAre(SlashCommand::heading1, SlashCommand::heading2));
 }
 
-TEST_F(SlashMenuController, ItsFourKeysEndInTheKeyViewAndAllOthersGoOn) {
-    slash::KeyboardHandlingView view(*fake_.platform.keyPresses);
-    const auto goesOn = [&view](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-        QKeyEvent event(QEvent::KeyPress, key, modifiers);
-        QCoreApplication::sendEvent(&view, &event);
-        return !event.isAccepted();
-    };
-    std::vector<char> called;
-    for (const bool wanted : {false, true}) {
-        if (wanted) {
-            view.onUpArrow = [&] { called.push_back('u'); };
-            view.onDownArrow = [&] { called.push_back('d'); };
-            view.onReturn = [&] { called.push_back('r'); };
-            view.onEscape = [&] { called.push_back('e'); };
-        }
-        EXPECT_FALSE(goesOn(Qt::Key_Up));
-        EXPECT_FALSE(goesOn(Qt::Key_Down, Qt::ControlModifier));
-        EXPECT_FALSE(goesOn(Qt::Key_Return, Qt::ShiftModifier));
-        EXPECT_FALSE(goesOn(Qt::Key_Escape));
-        EXPECT_TRUE(goesOn(Qt::Key_A));
-        EXPECT_TRUE(goesOn(Qt::Key_Left));
-    }
-    EXPECT_THAT(called, ElementsAre('u', 'd', 'r', 'e'));
-}

@@ -2,12 +2,9 @@
 
 #include "ui/Theme.h"
 
-#include <QAccessible>
 #include <QApplication>
-#include <gmock/gmock.h>
 
 using slash::SlashCommand;
-using testing::ElementsAre;
 using ui::Color;
 
 namespace {
@@ -43,32 +40,6 @@ protected:
         return found == nullptr ? QRect() : place(*found);
     }
 };
-
-/// The interfaces below one, and itself.
-std::vector<QAccessibleInterface*> everythingIn(QAccessibleInterface* root) {
-    std::vector<QAccessibleInterface*> all{root};
-    for (int index = 0; index < root->childCount(); ++index) {
-        const auto below = everythingIn(root->child(index));
-        all.insert(all.end(), below.begin(), below.end());
-    }
-    return all;
-}
-
-QAccessibleInterface* withRole(QAccessibleInterface* root, QAccessible::Role role) {
-    const auto all = everythingIn(root);
-    const auto found = std::ranges::find_if(all, [&](auto* one) { return one->role() == role; });
-    return found == all.end() ? nullptr : *found;
-}
-
-std::vector<QString> selectedIn(QAccessibleInterface* list) {
-    std::vector<QString> names;
-    for (int index = 0; index < list->childCount(); ++index) {
-        if (list->child(index)->state().selected) {
-            names.push_back(list->child(index)->text(QAccessible::Name));
-        }
-    }
-    return names;
-}
 
 } // namespace
 
@@ -149,25 +120,3 @@ TEST_F(SlashMenuView, TheHighlightedRowIsWhiteOnTheAccent) {
     }
 }
 
-TEST_F(SlashMenuView, AssistiveTechnologySeesASearchFieldAndAListWithAChosenItem) {
-    QAccessibleInterface* root = QAccessible::queryAccessibleInterface(&window());
-    QAccessibleInterface* field = withRole(root, QAccessible::EditableText);
-    QAccessibleInterface* list = withRole(root, QAccessible::List);
-    ASSERT_TRUE(field && list);
-    EXPECT_EQ(field->text(QAccessible::Name), QStringLiteral("Search commands..."));
-    EXPECT_TRUE(field->state().focused);
-    EXPECT_EQ(list->childCount(), 11);
-    EXPECT_EQ(list->child(5)->role(), QAccessible::ListItem);
-    EXPECT_EQ(list->child(5)->text(QAccessible::Description), QStringLiteral("Todo items"));
-    EXPECT_TRUE(list->child(5)->state().selectable);
-    EXPECT_THAT(selectedIn(list), ElementsAre(QStringLiteral("Heading 1")));
-
-    type("list");
-    press(Qt::Key_Down);
-    ASSERT_EQ(list->childCount(), 3);
-    EXPECT_THAT(selectedIn(list), ElementsAre(QStringLiteral("Numbered List")));
-    QAccessibleInterface* checklist = list->child(2);
-    EXPECT_EQ(list->indexOfChild(checklist), 2);
-    checklist->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    EXPECT_THAT(chosen_, ElementsAre(SlashCommand::checklist));
-}

@@ -1,6 +1,4 @@
 #include "fakes/FakePlatform.h"
-#include "ui/Label.h"
-#include "ui/List.h"
 #include "ui/RadioGroup.h"
 #include "ui/Slider.h"
 #include "ui/Stack.h"
@@ -109,20 +107,6 @@ TEST_F(Controls, ASliderThatAssistiveTechnologySetsGoesToTheNearestStop) {
     slider.setEnabled(false);
     range.setCurrentValue(1.0);
     EXPECT_EQ(value->get(), 0.0);
-}
-
-TEST_F(Controls, AListTellsWhatItIsWhateverItsRowsAre) {
-    const auto items = ui::state(std::vector{QStringLiteral("a"), QStringLiteral("b")});
-    show(ui::list<QString>(items, {.accessibilityLabel = QStringLiteral("Letters"),
-                                   .row = [](const QString& item) { return ui::text(item); },
-                                   .name = [](const QString& item) { return item; },
-                                   .activate = [](const QString&) {}}));
-    auto& list = only<ui::LazyList>();
-    QAccessibleInterface& interface = accessible(*list.viewport());
-    EXPECT_EQ(interface.role(), QAccessible::List);
-    EXPECT_EQ(interface.text(QAccessible::Name), QStringLiteral("Letters"));
-    EXPECT_EQ(accessible(*list.row(1)).role(), QAccessible::ListItem);
-    EXPECT_EQ(accessible(*list.row(1)).text(QAccessible::Name), QStringLiteral("b"));
 }
 
 } // namespace

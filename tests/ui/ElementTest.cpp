@@ -40,14 +40,6 @@ TEST_F(Elements, WhatIsNeverPlacedIsDeletedWithAllThatItHolds) {
     EXPECT_FALSE(child);
 }
 
-TEST_F(Elements, ATextThatMayWrapStaysOnOneLineAtItsOwnWidth) {
-    for (const char* words : {"You have version 1.0.2.", "a", "AV To. W, fi", ""}) {
-        const ui::Element text = ui::text(QString::fromLatin1(words), {.wraps = true});
-        const QSize hint = text.widget().sizeHint();
-        EXPECT_LT(text.widget().heightForWidth(hint.width()), 2 * hint.height()) << words;
-    }
-}
-
 TEST_F(Elements, WhatIsKeptLivesAsLongAsTheWidget) {
     const auto value = ui::state(1);
     {

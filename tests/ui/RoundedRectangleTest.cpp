@@ -27,20 +27,6 @@ TEST(RoundedRectangle, CornersAreAsDeepAsACirclesAndMeetTheEdges) {
     EXPECT_TRUE(path.contains(QPointF(15, 0.004)));
 }
 
-TEST(RoundedRectangle, AllFourCornersAreAlike) {
-    const QRectF rect(3, 5, 60, 30);
-    const QPainterPath path = RoundedRectangle{8}.path(rect);
-    const QPointF centre = rect.center();
-    for (const QPointF offset : {QPointF(28.5, 13.5), QPointF(27, 12), QPointF(25, 14.8)}) {
-        const bool inside = path.contains(centre + offset);
-        for (const QPointF sign : {QPointF(-1, 1), QPointF(1, -1), QPointF(-1, -1)}) {
-            EXPECT_EQ(path.contains(centre + QPointF(offset.x() * sign.x(), offset.y() * sign.y())),
-                      inside)
-                << offset.x();
-        }
-    }
-}
-
 TEST(RoundedRectangle, AnyRadiusStaysInsideTheRectangle) {
     for (const double radius : {-1.0, 0.0, 3.0, 500.0}) {
         EXPECT_EQ(RoundedRectangle{radius}.path({0, 0, 20, 10}).boundingRect(),

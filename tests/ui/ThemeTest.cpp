@@ -90,10 +90,4 @@ TEST(Theme, ThinWhiteTextCanBeReadOnTheAccentBehindItWhateverTheDesktopsAccent) 
     EXPECT_EQ(ui::color(Color::AccentBehindText, desktop), QColor(0xff1a2f50U));
 }
 
-TEST(Theme, APointIsAPixelAtAnyResolution) {
-    EXPECT_EQ(ui::font(18, ui::Weight::Bold).pixelSize(), 18);
-    EXPECT_EQ(ui::font(13, ui::Weight::Semibold).weight(), QFont::DemiBold);
-    EXPECT_FALSE(ui::font(13, ui::Weight::Regular).resolveMask() & QFont::FamilyResolved);
-}
-
 } // namespace
