@@ -28,9 +28,9 @@ class TimingTray(Tray):
         self.registered = {}
         super().__init__(session)
 
-    def _on_call(self, bus, sender, path, interface, method, arguments, invocation):
+    def answer(self, sender, method, values):
         moment = time.monotonic()
-        super()._on_call(bus, sender, path, interface, method, arguments, invocation)
+        super().answer(sender, method, values)
         for item in self.items:
             self.registered.setdefault(item.pid, moment)
 

@@ -4,11 +4,17 @@ import os
 import unittest
 
 from desktop import Desktop
+from gnote import Gnote
 from keylog import KeyLog
 from program import Program
 from tray import Tray
+from windows import Rect
 
+SCREEN = Rect(0, 0, 1280, 800)  # Unless a test wants another one.
 EXECUTABLE = os.environ.get("QUILLET_EXECUTABLE", "build/release/corvane-quillet")
+BUILD = os.environ.get("QUILLET_BUILD", "build/dev")
+# The same program with other servers.
+ELSEWHERE = os.path.join(BUILD, "tests", "corvane-quillet-elsewhere")
 FAILURES = os.environ.get("QUILLET_FAILURES")  # A folder for pictures of what went wrong.
 
 
@@ -53,6 +59,16 @@ class DesktopCase(unittest.TestCase):
             program.wait_for_icon(self.tray)
         return program
 
+    def start_at_once(self):
+        """A program whose bar comes without a delay."""
+        return self.start_program(settings={"appearanceDelay": 0})
+
+    def open_note(self, body):
+        """A note that is there until the test is over."""
+        note = Gnote(self.desktop, "Note", body)
+        self.addCleanup(self.desktop.session.end, note.process)
+        return note
+
     def key_log(self):
         log = KeyLog(self.desktop.session.display)
         self.addCleanup(log.close)
@@ -62,3 +78,20 @@ class DesktopCase(unittest.TestCase):
         """The keyboard still belongs to an application."""
         self.assertEqual(self.windows.active_pid(), application.pid)
         self.assertEqual(self.windows.focused_pid(), application.pid)
+
+
+class NoteCase(DesktopCase):
+    """One note for all tests of a class; in front, with the caret at its beginning."""
+
+    body = ""
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.note = Gnote(cls.desktop, "Note", cls.body)
+        cls.text = cls.note.text
+
+    def setUp(self):
+        super().setUp()
+        self.desktop.focus(self.note)
+        self.desktop.put_caret(self.text, 0)

@@ -8,7 +8,7 @@ import sys
 
 import gi
 
-import wait
+from application import Application
 
 gi.require_version("Gdk", "3.0")
 gi.require_version("Gtk", "3.0")
@@ -24,22 +24,16 @@ StartupWMClass=two-fields
 """
 
 
-class Entries:
+class Entries(Application):
     """The window as a process of its own, with one of its fields focused."""
 
     def __init__(self, desktop, field):
+        script = os.path.abspath(__file__)
         folder = os.path.join(desktop.session.environment["XDG_DATA_HOME"], "applications")
         os.makedirs(folder, exist_ok=True)
         with open(os.path.join(folder, "two-fields.desktop"), "w", encoding="utf-8") as file:
-            file.write(_DESKTOP_FILE.format(executable=os.path.abspath(__file__)))
-        self.process = desktop.session.start([sys.executable, os.path.abspath(__file__), field])
-        self.window = wait.until(lambda: desktop.windows.client_of(self.process.pid), 10.0,
-                                 "the window with two fields")
-        self.text = desktop.focus(self)
-
-    @property
-    def pid(self):
-        return self.process.pid
+            file.write(_DESKTOP_FILE.format(executable=script))
+        super().__init__(desktop, [sys.executable, script, field])
 
 
 def _is_foreign_shortcut(_field, event):

@@ -1,10 +1,9 @@
 """A real notes application with one note."""
 
-import glob
 import os
 from xml.sax.saxutils import escape
 
-import wait
+from application import Application
 
 IDENTIFIER = "0f3e2a54-8f1d-4a53-9c0e-7f6d5b1c2a10"
 
@@ -34,36 +33,19 @@ search-window-height=400
 """
 
 
-class Gnote:
-    """The application, started with a note open and its text focused."""
+class Gnote(Application):
+    """The application, started with a note open."""
 
     def __init__(self, desktop, title, body):
-        self._desktop = desktop
-        self._folder = os.path.join(desktop.session.environment["XDG_DATA_HOME"], "gnote")
-        os.makedirs(self._folder, exist_ok=True)
-        with open(self._note_file(), "w", encoding="utf-8") as file:
+        folder = os.path.join(desktop.session.environment["XDG_DATA_HOME"], "gnote")
+        os.makedirs(folder, exist_ok=True)
+        self._note_file = os.path.join(folder, f"{IDENTIFIER}.note")
+        with open(self._note_file, "w", encoding="utf-8") as file:
             file.write(_NOTE.format(title=escape(title), body=escape(body)))
-        settings = os.path.join(desktop.session.config_folder, "glib-2.0", "settings")
-        os.makedirs(settings, exist_ok=True)
-        with open(os.path.join(settings, "keyfile"), "a", encoding="utf-8") as file:
-            file.write(_SETTINGS)
-        self.process = desktop.session.start(
-            ["gnote", "--open-note", f"note://gnote/{IDENTIFIER}"])
-        self.window = wait.until(lambda: desktop.windows.client_of(self.process.pid), 20.0,
-                                 "the notes application's window")
-        self.text = desktop.focus(self)
-
-    @property
-    def pid(self):
-        return self.process.pid
+        desktop.session.add_toolkit_settings(_SETTINGS)
+        super().__init__(desktop, ["gnote", "--open-note", f"note://gnote/{IDENTIFIER}"])
 
     def saved(self):
         """The note as it lies on disk, marks included."""
-        with open(self._note_file(), encoding="utf-8") as file:
+        with open(self._note_file, encoding="utf-8") as file:
             return file.read()
-
-    def backups(self):
-        return glob.glob(os.path.join(self._folder, "Backup", "*.note"))
-
-    def _note_file(self):
-        return os.path.join(self._folder, f"{IDENTIFIER}.note")

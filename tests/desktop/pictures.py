@@ -1,11 +1,12 @@
 """Pictures of the screen: colours of pixels, areas of a colour, PNG files."""
 
-import struct
-import zlib
-
+import gi
 from Xlib import X, display
 
 from windows import Rect
+
+gi.require_version("GdkPixbuf", "2.0")
+from gi.repository import GdkPixbuf, GLib  # After the version.
 
 
 class Picture:
@@ -64,17 +65,8 @@ class Picture:
         colours = bytearray(3 * width * height)
         for channel in range(3):
             colours[channel::3] = self._pixels[2 - channel::4]
-        stride = 3 * width
-        lines = b"".join(b"\0" + colours[row * stride:(row + 1) * stride] for row in range(height))
-        with open(path, "wb") as file:
-            file.write(b"\x89PNG\r\n\x1a\n"
-                       + _chunk(b"IHDR", struct.pack(">IIBBBBB", width, height, 8, 2, 0, 0, 0))
-                       + _chunk(b"IDAT", zlib.compress(lines, 6)) + _chunk(b"IEND", b""))
-
-
-def _chunk(kind, data):
-    body = kind + data
-    return struct.pack(">I", len(data)) + body + struct.pack(">I", zlib.crc32(body))
+        GdkPixbuf.Pixbuf.new_from_bytes(GLib.Bytes.new(bytes(colours)), GdkPixbuf.Colorspace.RGB,
+                                        False, 8, width, height, 3 * width).savev(path, "png")
 
 
 class Camera:

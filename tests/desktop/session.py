@@ -1,6 +1,7 @@
 """A private desktop: an X server, a session bus, a window manager and the accessibility bus."""
 
 import os
+import select
 import shutil
 import signal
 import subprocess
@@ -11,8 +12,7 @@ from gi.repository import Gio, GLib
 
 import processes
 import wait
-
-CALL_LIMIT = 3000  # Milliseconds that a D-Bus call may take.
+from bus_service import CALL_LIMIT, connect
 
 
 class Session:
@@ -124,6 +124,13 @@ class Session:
         wait.until(lambda: not any(processes.command_line(pid) for pid in victims), 5.0,
                    f"{part} is gone")
 
+    def add_toolkit_settings(self, content):
+        """For the applications that are started from now on."""
+        folder = os.path.join(self.config_folder, "glib-2.0", "settings")
+        os.makedirs(folder, exist_ok=True)
+        with open(os.path.join(folder, "keyfile"), "a", encoding="utf-8") as file:
+            file.write(content)
+
     def files_of_home(self):
         """Every file below the home folder, settings and caches included."""
         return [os.path.join(folder, name)
@@ -158,12 +165,9 @@ class Session:
         }
 
     def _start_x_server(self, width, height, monitors):
-        reading, writing = os.pipe()
-        self.x_server = self.start(["Xvfb", "-displayfd", str(writing), "-screen", "0",
-                                    f"{width}x{height}x24", "-dpi", "96", "-nolisten", "tcp",
-                                    "-noreset"], pass_fds=[writing])
-        os.close(writing)
-        number = _read_line(reading, 10.0, "the X server is up")
+        self.x_server, number = self._start_server(
+            ["Xvfb", "-displayfd", "{pipe}", "-screen", "0", f"{width}x{height}x24", "-dpi", "96",
+             "-nolisten", "tcp", "-noreset"])
         self.environment["DISPLAY"] = f":{number}"
         for index, (monitor_width, monitor_height, x, y) in enumerate(monitors):
             # The first one takes the output, so that no monitor of the server's own is left.
@@ -173,19 +177,22 @@ class Session:
                       "screen" if index == 0 else "none"])
 
     def _start_bus(self):
-        reading, writing = os.pipe()
         # A short path: the address of a socket has little room.
-        address = f"unix:path={self.runtime_folder}/bus"
-        self.bus_daemon = self.start(
-            ["dbus-daemon", "--session", "--nofork", "--nopidfile", f"--address={address}",
-             f"--print-address={writing}"], pass_fds=[writing])
+        self.bus_daemon, address = self._start_server(
+            ["dbus-daemon", "--session", "--nofork", "--nopidfile",
+             f"--address=unix:path={self.runtime_folder}/bus", "--print-address={pipe}"])
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
+        self.bus = connect(address)
+
+    def _start_server(self, command):
+        """A server that tells on a pipe where it is, once it is up, and what it tells."""
+        reading, writing = os.pipe()
+        server = self.start([part.format(pipe=writing) for part in command], pass_fds=[writing])
         os.close(writing)
-        self.environment["DBUS_SESSION_BUS_ADDRESS"] = _read_line(reading, 10.0, "the bus is up")
-        self.bus = Gio.DBusConnection.new_for_address_sync(
-            self.environment["DBUS_SESSION_BUS_ADDRESS"],
-            Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
-            | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None, None)
-        self.bus.set_exit_on_close(False)
+        with open(reading, encoding="utf-8") as pipe:
+            if not select.select([pipe], [], [], 10.0)[0]:
+                raise wait.Timeout(f"{command[0]} does not come up")
+            return server, pipe.readline().strip()
 
     def start_window_manager(self):
         """Also after an earlier one has ended."""
@@ -203,22 +210,3 @@ class Session:
         self.call("org.a11y.Bus", "/org/a11y/bus", "org.freedesktop.DBus.Properties", "Set",
                   GLib.Variant("(ssv)", ("org.a11y.Status", "IsEnabled",
                                          GLib.Variant("b", True))))
-
-
-def _read_line(descriptor, limit, what):
-    os.set_blocking(descriptor, False)
-    line = b""
-
-    def whole():
-        nonlocal line
-        try:
-            line += os.read(descriptor, 200)
-        except BlockingIOError:
-            pass
-        return line.endswith(b"\n")
-
-    try:
-        wait.until(whole, limit, what)
-    finally:
-        os.close(descriptor)
-    return line.decode().strip()

@@ -1,14 +1,15 @@
 """A session manager of the old school (XSMP): what a program wants to happen at the next login."""
 
 import select
-import time
 from ctypes import (CDLL, CFUNCTYPE, POINTER, Structure, byref, c_char_p, c_int, c_ulong, c_void_p,
                     cast, create_string_buffer, string_at)
 
-_ice, _sm, _c = CDLL("libICE.so.6"), CDLL("libSM.so.6"), CDLL(None)
-_c.strdup.restype = c_void_p
+import wait
+
+_ice, _sm = CDLL("libICE.so.6"), CDLL("libSM.so.6")
 _ice.IceComposeNetworkIdList.restype = c_char_p
 _ice.IceAcceptConnection.restype = c_void_p
+_sm.SmsGenerateClientID.restype = c_void_p
 
 _CALLBACKS = ("register_client", "interact_request", "interact_done", "save_yourself_request",
               "save_yourself_phase2_request", "save_yourself_done", "close_connection",
@@ -65,11 +66,7 @@ class SessionManager:
         self.address = _ice.IceComposeNetworkIdList(count, listeners).decode()
 
     def serve_until(self, condition, limit, what):
-        deadline = time.monotonic() + limit
-        while not condition():
-            if time.monotonic() >= deadline:
-                raise AssertionError(f"{what}: not within {limit} s")
-            self._serve()
+        wait.until(lambda: self._serve() or condition(), limit, what)
 
     def _serve(self):
         listening = {_ice.IceGetListenConnectionNumber(each): each for each in self._listeners}
@@ -92,7 +89,7 @@ class SessionManager:
 
     def _register(self, connection, _data, _previous):
         connection = c_void_p(connection)
-        _sm.SmsRegisterClientReply(connection, _sm_client_id(connection))
+        _sm.SmsRegisterClientReply(connection, c_void_p(_sm.SmsGenerateClientID(connection)))
         _sm.SmsSaveYourself(connection, _SAVE_LOCAL, 0, _NO_INTERACTION, 0)
         return 1
 
@@ -105,8 +102,3 @@ class SessionManager:
     def _done(self, connection, _data, _success):
         _sm.SmsSaveComplete(c_void_p(connection))
         self.saved = True
-
-
-def _sm_client_id(connection):
-    _sm.SmsGenerateClientID.restype = c_void_p
-    return c_void_p(_sm.SmsGenerateClientID(connection))

@@ -14,7 +14,6 @@ import bar
 import package
 import wait
 from case import DesktopCase
-from gnote import Gnote
 
 WANTED = (os.environ.get("QUILLET_CLEAN_ROOT") == "1" and os.geteuid() == 0
           and shutil.which("mmdebstrap"))
@@ -60,7 +59,7 @@ class CleanRootTest(DesktopCase):
         return next((frame for _, frame in self.windows.floating_of(pid) if bar.is_bar(frame)), None)
 
     def test_the_installed_program_makes_a_word_bold_and_complains_of_nothing(self):
-        note = Gnote(self.desktop, "Clean", "A word in a clean root.")
+        note = self.open_note("A word in a clean root.")
         process = self.start_installed()
         icon = wait.until(lambda: self.tray.item_of(process.pid), 15.0, "the icon is there")
         words = self.desktop.select(note.text, "word")
@@ -71,7 +70,3 @@ class CleanRootTest(DesktopCase):
         said = process.communicate(timeout=5.0)[0].decode().splitlines()
         self.assertEqual(process.returncode, 0)
         self.assertEqual([line for line in said if "start at login" not in line], [])
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -5,7 +5,7 @@ import time
 import unittest
 
 import wait
-from case import DesktopCase, EXECUTABLE
+from case import EXECUTABLE, NoteCase
 from desktop import Desktop
 from gnote import Gnote
 from program import Program
@@ -14,17 +14,14 @@ from tray import Tray
 SIGNALS = (signal.SIGTERM, signal.SIGINT, signal.SIGHUP)
 
 
-class SignalTest(DesktopCase):
+class SignalTest(NoteCase):
     """After each, the program is gone with status 0, no window of it is left, no key is down."""
 
-    @classmethod
-    def setUpClass(cls):
-        super().setUpClass()
-        cls.note = Gnote(cls.desktop, "Signals", "Only a few words.")
+    body = "Only a few words."
 
     def start_with_bar(self):
         self.desktop.put_caret(self.note.text, 0)
-        program = self.start_program(settings={"appearanceDelay": 0})
+        program = self.start_at_once()
         self.desktop.select(self.note.text, "few")
         program.wait_for_bar()
         return program
@@ -102,7 +99,3 @@ class LostServerTest(unittest.TestCase):
         self.desktop.session.bus_daemon.kill()
         self.assertEqual(self.assert_ended_with_one_line(), "Quillet: the session bus is gone")
         self.assertEqual(self.desktop.windows.floating_of(self.program.pid), [])
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -1,35 +1,21 @@
 """Long use, stopped applications, and a violent end."""
 
 import signal
-import unittest
 
 import bar
 import wait
-from case import DesktopCase
-from gnote import Gnote
+from case import NoteCase, SCREEN
 from mousepad import Mousepad
 from windows import Rect
 
-SCREEN = Rect(0, 0, 1280, 800)
 WORDS = ["one", "two", "three", "four", "five", "six", "seven", "eight", "nine", "ten"]
 SELECTIONS = 50
 ANSWER = 0.3  # Seconds within which the menu answers, whatever an application does.
 
 
-class EnduranceTest(DesktopCase):
+class EnduranceTest(NoteCase):
 
-    @classmethod
-    def setUpClass(cls):
-        super().setUpClass()
-        cls.note = Gnote(cls.desktop, "Numbers", ", ".join(WORDS) + ".")
-        cls.text = cls.note.text
-
-    def setUp(self):
-        super().setUp()
-        self.desktop.put_caret(self.text, 0)
-
-    def start_at_once(self):
-        return self.start_program(settings={"appearanceDelay": 0})
+    body = ", ".join(WORDS) + "."
 
     def test_fifty_selections_bring_fifty_bars(self):
         program = self.start_at_once()
@@ -92,7 +78,3 @@ class EnduranceTest(DesktopCase):
         words = self.desktop.select(self.text, "five")
         program.wait_for_bar_at(bar.expected_frame(
             self.text.extents(*words), SCREEN, first=False))
-
-
-if __name__ == "__main__":
-    unittest.main()

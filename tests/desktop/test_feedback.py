@@ -3,7 +3,6 @@
 import base64
 import os
 import time
-import unittest
 
 import gi
 import wait
@@ -13,12 +12,9 @@ gi.require_version("GdkPixbuf", "2.0")
 from gi.repository import GdkPixbuf, GLib  # After the version.
 
 import feedback_server
-from case import DesktopCase
-from program import Program
+from case import DesktopCase, ELSEWHERE
 from windows import Rect
 
-ELSEWHERE = os.path.join(os.environ.get("QUILLET_BUILD", "build/dev"), "tests",
-                         "corvane-quillet-elsewhere")
 TITLE = "Feedback senden"
 BLUE, RED = (20, 60, 200), (200, 30, 20)
 
@@ -74,13 +70,9 @@ class FeedbackTest(DesktopCase):
         self.addCleanup(server.close)
         return server
 
-    def start_program(self):
-        program = Program(self.desktop, ELSEWHERE,
-                          environment=feedback_server.environment(self.folder, self.port))
-        self.programs.append(program)
-        self.addCleanup(program.end)
-        program.wait_for_icon(self.tray)
-        return program
+    def start_elsewhere(self):
+        return self.start_program(ELSEWHERE, environment=feedback_server.environment(self.folder,
+                                                                                     self.port))
 
     def form(self, program):
         """The form's window on the screen, or None."""
@@ -108,7 +100,7 @@ class FeedbackTest(DesktopCase):
         behind = Sheet(self.desktop, BLUE, Rect(200, 100, 900, 600))
         self.addCleanup(behind.close)
         server = self.start_server()
-        program = self.start_program()
+        program = self.start_elsewhere()
         frame = self.open_form(program)
         front = Sheet(self.desktop, RED, Rect(frame.x + 20, frame.y + 10, 60, 30), floating=True)
         self.addCleanup(front.close)
@@ -137,7 +129,7 @@ class FeedbackTest(DesktopCase):
         self.assertEqual(self.desktop.accessibility.focused_text(program.pid).content(), "")
 
     def test_with_the_server_down_everything_stays_for_a_second_try(self):
-        program = self.start_program()
+        program = self.start_elsewhere()
         frame = self.open_form(program)
         self.type("hello")
         self.hands.press("Tab")
@@ -153,7 +145,3 @@ class FeedbackTest(DesktopCase):
         self.assertEqual(request["json"]["text"], "hello")
         self.hands.press("Escape")
         program.wait_until(lambda: not self.form(program), 1.0, "Escape closes the form")
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -1,25 +1,16 @@
 """The heading picker: opened, a level chosen, dismissed, and never in the way of the text."""
 
-import unittest
-
-from case import DesktopCase
-from gnote import Gnote
+from case import NoteCase
 from keylog import KeyLog
 
 
-class HeadingPickerTest(DesktopCase):
+class HeadingPickerTest(NoteCase):
 
-    @classmethod
-    def setUpClass(cls):
-        super().setUpClass()
-        cls.note = Gnote(cls.desktop, "Headings", "Some words make a better heading than others.")
-        cls.text = cls.note.text
+    body = "Some words make a better heading than others."
 
     def setUp(self):
         super().setUp()
-        self.desktop.focus(self.note)
-        self.desktop.put_caret(self.text, 0)
-        self.program = self.start_program(settings={"appearanceDelay": 0})
+        self.program = self.start_at_once()
         self.words = self.desktop.select(self.text, "better")
         self.program.wait_for_bar()
         self.program.click("Heading")
@@ -82,7 +73,3 @@ class HeadingPickerTest(DesktopCase):
         self.desktop.select(self.text, "words")
         self.program.wait_for_bar()
         self.program.wait_for_picker()
-
-
-if __name__ == "__main__":
-    unittest.main()

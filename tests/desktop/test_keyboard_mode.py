@@ -1,29 +1,16 @@
 """The user's keyboard: the stored shortcut, held modifiers, other layouts."""
 
-import unittest
-
 import bar
 import wait
-from case import DesktopCase
-from gnote import Gnote
-from windows import Rect
+from case import NoteCase, SCREEN
 
 CONTROL_ALT_F = {"useKeyboardShortcut": True, "shortcutKeyCode": 3, "shortcutModifiers": 0x180000}
-SCREEN = Rect(0, 0, 1280, 800)
 LONG_ENOUGH = 0.9  # For a poll and the delay, had they brought the bar.
 
 
-class KeyboardModeTest(DesktopCase):
+class KeyboardModeTest(NoteCase):
 
-    @classmethod
-    def setUpClass(cls):
-        super().setUpClass()
-        cls.note = Gnote(cls.desktop, "Shortcuts", "First come some words. Then come many more.")
-        cls.text = cls.note.text
-
-    def setUp(self):
-        super().setUp()
-        self.desktop.put_caret(self.text, 0)
+    body = "First come some words. Then come many more."
 
     def assert_no_bar(self, program):
         wait.throughout(lambda: program.bar_frame() is None, LONG_ENOUGH, "the bar is hidden")
@@ -65,21 +52,13 @@ class KeyboardModeTest(DesktopCase):
         wait.until(lambda: self.text.is_bold(*words), 3.0, "the word is bold")
 
 
-class HeldKeysTest(DesktopCase):
+class HeldKeysTest(NoteCase):
     """What the user's own fingers do while a shortcut is to be posted."""
 
-    @classmethod
-    def setUpClass(cls):
-        super().setUpClass()
-        cls.note = Gnote(cls.desktop, "Fingers", "Bold with Dvorak, never with Shift held down.")
-        cls.text = cls.note.text
-
-    def setUp(self):
-        super().setUp()
-        self.desktop.put_caret(self.text, 0)
+    body = "Bold with Dvorak, never with Shift held down."
 
     def select_and_wait(self, words):
-        program = self.start_program(settings={"appearanceDelay": 0})
+        program = self.start_at_once()
         chosen = self.desktop.select(self.text, words)
         program.wait_for_bar()
         return program, chosen
@@ -116,7 +95,3 @@ class HeldKeysTest(DesktopCase):
         program.click("Bold")
         wait.until(lambda: self.text.is_bold(*words), 3.0, "the word is bold")
         self.assertEqual(self.text.content(), content)
-
-
-if __name__ == "__main__":
-    unittest.main()

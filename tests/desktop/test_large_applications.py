@@ -10,13 +10,11 @@ from enum import Enum
 
 import bar
 import wait
-from case import DesktopCase
+from case import DesktopCase, SCREEN
 from windows import Rect
 
-SCREEN = Rect(0, 0, 1280, 800)
 TEXT = "A plain document with a few words.\n"
 WORDS = "plain"
-
 
 
 class Place(Enum):
@@ -68,7 +66,7 @@ class LargeApplicationsTest(DesktopCase):
             before = self.desktop.settled_picture(whole)
             chosen = self.desktop.select(text, WORDS)
             after = self.desktop.settled_picture(whole)
-            program = self.start_program(settings={"appearanceDelay": 0})
+            program = self.start_at_once()
             frame = program.wait_for_bar()
             match place:
                 case Place.TOLD:
@@ -95,7 +93,3 @@ class LargeApplicationsTest(DesktopCase):
     def new_client(self):
         clients = self.windows.clients()
         return clients[-1] if clients else None
-
-
-if __name__ == "__main__":
-    unittest.main()

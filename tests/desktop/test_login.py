@@ -3,7 +3,6 @@
 import os
 import shutil
 import signal
-import unittest
 
 import processes
 import wait
@@ -84,7 +83,3 @@ class LoginTest(DesktopCase):
         self.addCleanup(program.end)
         manager.serve_until(lambda: manager.saved, 5.0, "the program has saved itself")
         self.assertEqual(manager.properties["RestartStyleHint"], RESTART_NEVER)
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -1,11 +1,8 @@
 """The menu of the icon, as a desktop's tray reads it over D-Bus."""
 
-import unittest
-
 import wait
 from case import DesktopCase
 from entries import Entries
-from gnote import Gnote
 from keys import RIGHT_BUTTON
 from tray import Tray
 
@@ -39,9 +36,8 @@ class MenuTest(DesktopCase):
         self.assertEqual(item.property("Category"), "ApplicationStatus")
 
     def test_quit_ends_it_with_the_bar(self):
-        note = Gnote(self.desktop, "Quitting", "A few words.")
-        self.addCleanup(self.desktop.session.end, note.process)
-        program = self.start_program(settings={"appearanceDelay": 0})
+        note = self.open_note("A few words.")
+        program = self.start_at_once()
         self.desktop.select(note.text, "few")
         program.wait_for_bar()
         program.wait_for_icon(self.tray).choose("Quit Corvane Quillet")
@@ -63,9 +59,8 @@ class MenuTest(DesktopCase):
         self.assertIsNone(program.process.poll())
 
     def test_polling_pauses_only_while_the_menu_is_open(self):
-        note = Gnote(self.desktop, "Pausing", "A few words.")
-        self.addCleanup(self.desktop.session.end, note.process)
-        program = self.start_program(settings={"appearanceDelay": 0})
+        note = self.open_note("A few words.")
+        program = self.start_at_once()
         item = program.wait_for_icon(self.tray)
         item.open()
         self.desktop.select(note.text, "few")
@@ -112,7 +107,3 @@ class LateTrayTest(DesktopCase):
         self.hands.press("Escape")
         program.wait_until(lambda: not self.windows.floating_of(program.pid), 3.0,
                            "the menu is closed")
-
-
-if __name__ == "__main__":
-    unittest.main()

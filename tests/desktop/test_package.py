@@ -4,15 +4,12 @@ import glob
 import os
 import shutil
 import tempfile
-import unittest
 from xml.etree import ElementTree
 
 import package
 import wait
 from case import DesktopCase
-from gnote import Gnote
 from package import output
-from program import Program
 
 PICTURES = os.path.join(os.path.dirname(os.path.abspath(__file__)), "../../docs/pictures")
 IDENTIFIER = "com.corvane.Quillet"
@@ -61,16 +58,9 @@ class PackageTest(DesktopCase):
             self.assertTrue(packages & depends, f"{library} of {packages}")
 
     def test_the_unpacked_program_makes_a_word_bold(self):
-        note = Gnote(self.desktop, "Packed", "A word in a package.")
+        note = self.open_note("A word in a package.")
         words = self.desktop.select(note.text, "word")
-        program = Program(self.desktop, self.installed("bin/corvane-quillet"))
-        self.programs.append(program)
-        self.addCleanup(program.end)
-        program.wait_for_icon(self.tray)
+        program = self.start_program(self.installed("bin/corvane-quillet"))
         program.wait_for_bar()
         program.click("Bold")
         wait.until(lambda: note.text.is_bold(*words), 3.0, "the word is bold")
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -1,13 +1,10 @@
 """Where the bar goes at the edges of the screen, over a plain editor."""
 
-import unittest
-
 import bar
-from case import DesktopCase
+from case import DesktopCase, SCREEN
 from mousepad import Mousepad
 from windows import Rect
 
-SCREEN = Rect(0, 0, 1280, 800)
 TEXT = "First line of the document\n" + "\n" * 12 + " " * 80 + "end\n"
 
 
@@ -27,7 +24,7 @@ class PlacementTest(DesktopCase):
         self.editor.place(window)
         self.desktop.put_caret(self.editor.text, 0)
         if self.program is None:
-            self.program = self.start_program(settings={"appearanceDelay": 0})
+            self.program = self.start_at_once()
         return self.editor.text.extents(*self.desktop.select(self.editor.text, words))
 
     def test_below_a_selection_on_the_screens_first_line(self):
@@ -67,7 +64,7 @@ class SecondScreenTest(DesktopCase):
 
     def test_the_bar_stays_on_the_screen_of_the_selection(self):
         editor = Mousepad(self.desktop, TEXT, Rect(1400, 200, 880, 400))
-        program = self.start_program(settings={"appearanceDelay": 0})
+        program = self.start_at_once()
         for words, first in (("document", True), ("end", False)):
             area = editor.text.extents(*self.desktop.select(editor.text, words))
             frame = bar.expected_frame(area, self.RIGHT, first)
@@ -115,7 +112,3 @@ class DoubleScaleTest(DesktopCase):
         editor = Mousepad(self.desktop, TEXT, Rect(500, 700, 1200, 600))
         self.addCleanup(self.desktop.session.end, editor.process)
         self.assert_bar_above(editor, lambda told: told)
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -1,13 +1,9 @@
 """What must never bring the bar: passwords, and applications that the user has not allowed."""
 
-import unittest
-
 import wait
 from case import DesktopCase
 from entries import WORDS, Entries
-from gnote import Gnote
 
-AT_ONCE = {"appearanceDelay": 0}
 LONG_ENOUGH = 1.0  # Four polls.
 
 
@@ -23,7 +19,7 @@ class PrivacyTest(DesktopCase):
         wait.until(lambda: text.selection() == (0, len(WORDS)), 3.0, "all of it is selected")
 
     def test_a_selection_in_a_password_field_never_brings_the_bar(self):
-        program = self.start_program(settings=AT_ONCE)
+        program = self.start_at_once()
         plain = self.open("plain")
         self.select_all(plain.text)
         program.wait_for_bar()
@@ -33,7 +29,7 @@ class PrivacyTest(DesktopCase):
         wait.throughout(lambda: program.bar_frame() is None, LONG_ENOUGH, "the bar is hidden")
 
     def test_nothing_of_what_is_selected_is_written_anywhere(self):
-        program = self.start_program(settings=AT_ONCE)
+        program = self.start_at_once()
         plain = self.open("plain")
         self.select_all(plain.text)
         program.wait_for_bar()
@@ -45,17 +41,12 @@ class PrivacyTest(DesktopCase):
                 self.assertNotIn(WORDS.encode(), file.read(), path)
 
     def test_only_chosen_applications_bring_the_bar_when_the_user_says_so(self):
-        note = Gnote(self.desktop, "Chosen", "A few words.")
-        self.addCleanup(self.desktop.session.end, note.process)
+        note = self.open_note("A few words.")
         program = self.start_program(settings={
-            **AT_ONCE, "useAllApps": False, "allowedApps": ["org.gnome.Gnote"]})
+            "appearanceDelay": 0, "useAllApps": False, "allowedApps": ["org.gnome.Gnote"]})
         self.desktop.select(note.text, "few")
         program.wait_for_bar()
         plain = self.open("plain")
         self.select_all(plain.text)
         program.wait_until_hidden()
         wait.throughout(lambda: program.bar_frame() is None, LONG_ENOUGH, "the bar is hidden")
-
-
-if __name__ == "__main__":
-    unittest.main()

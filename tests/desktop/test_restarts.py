@@ -1,21 +1,13 @@
 """Parts of the desktop crash and come back: the running program takes each up again."""
 
-import unittest
-
 from gi.repository import GLib
 
 import wait
 from case import DesktopCase
-from gnote import Gnote
 from text import AccessibilityBus
 
 
 class RestartTest(DesktopCase):
-
-    def open_note(self):
-        note = Gnote(self.desktop, "Restarts", "Only a few words.")
-        self.addCleanup(self.desktop.session.end, note.process)
-        return note
 
     def play_main_job(self, program, note):
         words = self.desktop.select(note.text, "few")
@@ -27,7 +19,7 @@ class RestartTest(DesktopCase):
         program.wait_until_hidden()
 
     def play_in_new_note(self, program):
-        note = self.open_note()
+        note = self.open_note("Only a few words.")
         self.play_main_job(program, note)
         self.desktop.session.end(note.process)
 
@@ -49,20 +41,16 @@ class RestartTest(DesktopCase):
 
     def test_an_application_that_outlives_the_registry_is_still_read(self):
         program = self.start_program()
-        note = self.open_note()
+        note = self.open_note("Only a few words.")
         self.play_main_job(program, note)
         self.desktop.session.kill("at-spi2-registryd")
         self.play_main_job(program, note)
 
     def test_the_window_manager(self):
         program = self.start_program()
-        note = self.open_note()
+        note = self.open_note("Only a few words.")
         self.play_main_job(program, note)
         self.desktop.session.kill("openbox")
         self.desktop.session.start_window_manager()
         self.desktop.focus(note)
         self.play_main_job(program, note)
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -1,13 +1,10 @@
 """The road of one selection in a real notes application, from the word to its bold letters."""
 
 import time
-import unittest
 
 import bar
 import wait
-from case import DesktopCase
-from gnote import Gnote
-from windows import Rect
+from case import NoteCase, SCREEN
 
 BODY = """The quick brown fox jumps over the lazy dog.
 
@@ -16,20 +13,14 @@ Another paragraph has other words to select."""
 DELAY = 0.3  # Between the selection's last change and the bar; also between its end and the hiding.
 POLL = 0.25
 SLACK = 0.5  # What a busy machine may take beyond that.
-SCREEN = Rect(0, 0, 1280, 800)
 
 
-class RoadTest(DesktopCase):
+class RoadTest(NoteCase):
 
-    @classmethod
-    def setUpClass(cls):
-        super().setUpClass()
-        cls.note = Gnote(cls.desktop, "The road", BODY)
-        cls.text = cls.note.text
+    body = BODY
 
     def setUp(self):
         super().setUp()
-        self.desktop.put_caret(self.text, 0)
         self.program = self.start_program()
 
     def expected(self, words, first):
@@ -120,7 +111,3 @@ class RoadTest(DesktopCase):
                 middle = bar.button(name, frame).centre
                 self.assertTrue(told.contains(*middle), f"{name}: {told} without {middle}")
                 self.assertEqual(told.height, 26, name)
-
-
-if __name__ == "__main__":
-    unittest.main()

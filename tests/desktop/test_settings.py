@@ -3,16 +3,13 @@
 import os
 import random
 import time
-import unittest
 
 import wait
-from case import EXECUTABLE, DesktopCase
-from gnote import Gnote
+from case import DesktopCase, EXECUTABLE, NoteCase, SCREEN
 from portal import DARK, LIGHT, Portal
 from settings_window import SIZE, TITLE, SettingsWindow
 from windows import Rect
 
-SCREEN = Rect(0, 0, 1280, 800)
 LONG_ENOUGH = 1.0  # Four polls.
 
 
@@ -23,19 +20,10 @@ class SettingsCase(DesktopCase):
         return SettingsWindow(self.desktop, program)
 
 
-class WithNote(SettingsCase):
+class WithNote(SettingsCase, NoteCase):
     """A note stands beside the window."""
 
-    @classmethod
-    def setUpClass(cls):
-        super().setUpClass()
-        cls.note = Gnote(cls.desktop, "Settings", "A few words to select.")
-        cls.text = cls.note.text
-
-    def setUp(self):
-        super().setUp()
-        self.desktop.focus(self.note)
-        self.desktop.put_caret(self.text, 0)
+    body = "A few words to select."
 
     def select(self, words):
         self.desktop.focus(self.note)
@@ -67,7 +55,7 @@ class WithNote(SettingsCase):
         self.assertIsNone(program.process.poll())
 
     def test_a_shortcut_recorded_with_real_keys_brings_the_bar(self):
-        program = self.start_program(settings={"appearanceDelay": 0})
+        program = self.start_at_once()
         window = self.open_settings(program)
         window.click("radio button", "With keyboard shortcut")
         window.wait_until_stored(useKeyboardShortcut=True)
@@ -85,7 +73,7 @@ class WithNote(SettingsCase):
         program.wait_for_bar()
 
     def test_the_bar_obeys_the_choice_of_applications_at_the_next_poll(self):
-        program = self.start_program(settings={"appearanceDelay": 0})
+        program = self.start_at_once()
         window = self.open_settings(program)
         window.click("page tab", "Apps")
         window.click("check box", "Enable for all applications")
@@ -230,7 +218,3 @@ class ScreenReaderTest(SettingsCase):
         controls.find("push button", "Feedback senden …").do("Press")
         wait.until(lambda: self.windows.client_of(program.pid, "Feedback senden"), 3.0,
                    "the feedback form is there")
-
-
-if __name__ == "__main__":
-    unittest.main()

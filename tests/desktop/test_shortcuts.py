@@ -1,7 +1,5 @@
 """Every button of the bar, clicked over a field of a foreign application."""
 
-import unittest
-
 import bar
 from case import DesktopCase
 from entries import Entries
@@ -33,7 +31,7 @@ class ShortcutsTest(DesktopCase):
     def test_each_button_posts_its_shortcut_once_also_where_its_edge_is_cut_off(self):
         self.assertEqual([name for name in bar.BUTTONS if name != "Heading"], list(SHORTCUTS))
         entries = Entries(self.desktop, "plain")
-        program = self.start_program(settings={"appearanceDelay": 0})
+        program = self.start_at_once()
         self.hands.press("Control+a")
         first = program.wait_for_bar()
         self.assertEqual(first.width, bar.FIRST_WIDTH)
@@ -44,7 +42,3 @@ class ShortcutsTest(DesktopCase):
         self.assertEqual(program.bar_frame(), first)
         self.assert_at_work_in(entries)
         self.assertEqual(program.output(), [])
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -4,10 +4,10 @@ reader finds. Nothing in the shipped program opens it."""
 import os
 
 import wait
-from case import DesktopCase
+from case import BUILD, DesktopCase
 from controls import Controls
 
-GALLERY = os.path.join(os.environ.get("QUILLET_BUILD", "build/dev"), "gallery")
+GALLERY = os.path.join(BUILD, "gallery")
 
 
 class SlashMenuTest(DesktopCase):

@@ -5,19 +5,15 @@ the address of a server of ours and its authority in place of the build's own.""
 
 import json
 import os
-import unittest
 
 from gi.repository import GLib
 
 import wait
-from case import DesktopCase
+from case import DesktopCase, ELSEWHERE
 from controls import Controls
 from feed import Feed
-from gnote import Gnote
 from notifications import Notifications
 
-ELSEWHERE = os.path.join(os.environ.get("QUILLET_BUILD", "build/dev"), "tests",
-                         "corvane-quillet-elsewhere")
 TITLE = "Corvane Quillet Updates"
 MENU_ENTRY = "Auf Updates prüfen …"
 START_DELAY = 3.0
@@ -106,8 +102,7 @@ class WithFeedTest(UpdateCase):
         self.wait_for_answer(again, "Corvane Quillet 1.1 is available")
 
     def test_the_daily_look_tells_by_a_notification_and_leaves_the_keyboard_alone(self):
-        note = Gnote(self.desktop, "Writing", "A few words.")
-        self.addCleanup(self.desktop.session.end, note.process)
+        note = self.open_note("A few words.")
         self.feed.publish("1.1")
         program = self.start()
         self.desktop.focus(note)
@@ -163,7 +158,3 @@ class WithFeedTest(UpdateCase):
         self.ask(program)
         self.wait_for_answer(program, "The update feed could not be read: Connection refused")
         self.press(program, "OK")
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -5,6 +5,7 @@ from collections import deque
 from gi.repository import Gio, GLib
 
 import wait
+from bus_service import connect
 from windows import Rect
 
 CALL_LIMIT = 2000  # Milliseconds that one question may take.
@@ -23,10 +24,7 @@ class AccessibilityBus:
     def __init__(self, session):
         address = session.call("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress",
                                answer="(s)").unpack()[0]
-        self._connection = Gio.DBusConnection.new_for_address_sync(
-            address, Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
-            | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None, None)
-        self._connection.set_exit_on_close(False)
+        self._connection = connect(address)
 
     def call(self, name, path, interface, method, arguments=None):
         return self._connection.call_sync(name, path, interface, method, arguments, None,

@@ -1,17 +1,18 @@
 """The desktop's tray: a StatusNotifier watcher and host that reads menus over D-Bus."""
 
-import threading
 import time
 from dataclasses import dataclass
 
 from gi.repository import Gio, GLib
+
+from bus_service import BusService
 
 WATCHER = "org.kde.StatusNotifierWatcher"
 _ITEM = "org.kde.StatusNotifierItem"
 _MENU = "com.canonical.dbusmenu"
 
 _DESCRIPTION = f"""
-<node><interface name="{WATCHER}">
+<interface name="{WATCHER}">
   <method name="RegisterStatusNotifierItem"><arg type="s" direction="in"/></method>
   <method name="RegisterStatusNotifierHost"><arg type="s" direction="in"/></method>
   <property name="RegisteredStatusNotifierItems" type="as" access="read"/>
@@ -20,7 +21,7 @@ _DESCRIPTION = f"""
   <signal name="StatusNotifierItemRegistered"><arg type="s"/></signal>
   <signal name="StatusNotifierItemUnregistered"><arg type="s"/></signal>
   <signal name="StatusNotifierHostRegistered"/>
-</interface></node>
+</interface>
 """
 
 
@@ -34,34 +35,12 @@ class Entry:
     shortcut: str
 
 
-class Tray:
-    """Stands on the session bus from its construction until `close`."""
+class Tray(BusService):
 
     def __init__(self, session):
-        self._session = session
         self.items = []
-        # A connection of its own, as a real tray has, served by a thread of its own.
-        self._bus = Gio.DBusConnection.new_for_address_sync(
-            session.environment["DBUS_SESSION_BUS_ADDRESS"],
-            Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
-            | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None, None)
-        self._bus.set_exit_on_close(False)
-        self._context = GLib.MainContext.new()
-        self._loop = GLib.MainLoop.new(self._context, False)
-        ready = threading.Event()
-        self._thread = threading.Thread(target=self._serve, args=(ready,), daemon=True)
-        self._thread.start()
-        if not ready.wait(5.0):
-            raise RuntimeError("the tray does not come up")
-        self._call_bus("RequestName", GLib.Variant("(su)", (WATCHER, 0)))
-        self._signal("StatusNotifierHostRegistered", None)
-
-    def close(self):
-        """The tray goes, as when a panel crashes. Safe to call twice."""
-        self._loop.quit()
-        self._thread.join(5.0)
-        if not self._bus.is_closed():
-            self._bus.close_sync(None)
+        super().__init__(session, WATCHER, "/StatusNotifierWatcher", _DESCRIPTION)
+        self.signal("StatusNotifierHostRegistered")
 
     def items_of(self, pid):
         """The icons of a process."""
@@ -75,47 +54,25 @@ class Tray:
         return self._bus.call_sync(name, path, interface, method, arguments, None,
                                    Gio.DBusCallFlags.NONE, round(1000 * limit), None).unpack()
 
-    def _serve(self, ready):
-        self._context.push_thread_default()
-        interface = Gio.DBusNodeInfo.new_for_xml(_DESCRIPTION).interfaces[0]
-        self._bus.register_object("/StatusNotifierWatcher", interface, self._on_call,
-                                  self._on_get, None)
-        self._bus.signal_subscribe("org.freedesktop.DBus", "org.freedesktop.DBus",
-                                   "NameOwnerChanged", "/org/freedesktop/DBus", None,
-                                   Gio.DBusSignalFlags.NONE, self._on_owner_changed)
-        ready.set()
-        self._loop.run()
-        self._context.pop_thread_default()
-
-    def _on_call(self, _bus, sender, _path, _interface, method, arguments, invocation):
+    def answer(self, sender, method, values):
         if method == "RegisterStatusNotifierItem":
-            service = arguments.unpack()[0]
+            service, = values
             path = service if service.startswith("/") else "/StatusNotifierItem"
             name = sender if service.startswith("/") else service
-            pid = self._call_bus("GetConnectionUnixProcessID",
-                                 GLib.Variant("(s)", (sender,))).unpack()[0]
+            pid = self._ask_bus("GetConnectionUnixProcessID",
+                                GLib.Variant("(s)", (sender,))).unpack()[0]
             self.items.append(Item(self, sender, name, path, pid))
-            self._signal("StatusNotifierItemRegistered", GLib.Variant("(s)", (name,)))
-        invocation.return_value(None)
+            self.signal("StatusNotifierItemRegistered", GLib.Variant("(s)", (name,)))
 
-    def _on_get(self, _bus, _sender, _path, _interface, name):
+    def value_of(self, name):
         return {"RegisteredStatusNotifierItems":
                 GLib.Variant("as", [item.name for item in self.items]),
                 "IsStatusNotifierHostRegistered": GLib.Variant("b", True),
                 "ProtocolVersion": GLib.Variant("i", 0)}[name]
 
-    def _on_owner_changed(self, _bus, _sender, _path, _interface, _signal, arguments):
-        name, _, owner = arguments.unpack()
+    def owner_changed(self, name, owner):
         if not owner:
             self.items = [item for item in self.items if name not in (item.name, item.sender)]
-
-    def _call_bus(self, method, arguments):
-        return self._bus.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus",
-                                   "org.freedesktop.DBus", method, arguments, None,
-                                   Gio.DBusCallFlags.NONE, 3000, None)
-
-    def _signal(self, name, arguments):
-        self._bus.emit_signal(None, "/StatusNotifierWatcher", WATCHER, name, arguments)
 
 
 class Item:
