@@ -40,10 +40,3 @@ TEST(StatusIcon, OffersTheSizesOfPanelsAndFillsEachOfThem) {
     }
 }
 
-TEST(StatusIcon, OfAnUnknownSymbolIsEmpty) {
-    struct NoSymbols final : platform::Symbols {
-        QImage mask(const QString&, const platform::SymbolStyle&, double) override { return {}; }
-    } symbols;
-    EXPECT_EQ(colourInTheMiddle(app::statusIcon(symbols, QStringLiteral("nothing")), 22).alpha(),
-              0);
-}

@@ -1,6 +1,5 @@
 """A plain text editor with one document."""
 
-import wait
 from application import Application
 
 _SETTINGS = """[org/xfce/mousepad/preferences/window]
@@ -19,13 +18,4 @@ class Mousepad(Application):
         with open(path, "w", encoding="utf-8") as file:
             file.write(content)
         desktop.session.add_toolkit_settings(_SETTINGS)
-        super().__init__(desktop, ["mousepad", path], environment)
-        if area is not None:
-            self.place(area)
-
-    def place(self, area):
-        """Puts the window's inside at a place of the screen, as near as its border lets it."""
-        before = self._desktop.windows.frame(self.window)
-        self._desktop.windows.place(self.window, area)
-        wait.until(lambda: self._desktop.windows.frame(self.window) != before
-                   or before == area, 5.0, "the editor's window is in its place")
+        super().__init__(desktop, ["mousepad", path], environment, area)

@@ -11,8 +11,8 @@ from Xlib import X, Xatom, display
 gi.require_version("GdkPixbuf", "2.0")
 from gi.repository import GdkPixbuf, GLib  # After the version.
 
-import feedback_server
 from case import DesktopCase, ELSEWHERE
+from servers import FeedbackServer, feedback_environment, free_port
 from windows import Rect
 
 TITLE = "Feedback senden"
@@ -61,18 +61,18 @@ class FeedbackTest(DesktopCase):
         super().setUp()
         self.folder = self.desktop.session.path("certificates")
         os.makedirs(self.folder, exist_ok=True)
-        self.port = feedback_server.free_port()
+        self.port = free_port()
         # It leaves its certificates, which the program reads before its first try.
-        feedback_server.FeedbackServer(self.folder, self.port).close()
+        FeedbackServer(self.folder, self.port).close()
 
     def start_server(self):
-        server = feedback_server.FeedbackServer(self.folder, self.port)
+        server = FeedbackServer(self.folder, self.port)
         self.addCleanup(server.close)
         return server
 
     def start_elsewhere(self):
-        return self.start_program(ELSEWHERE, environment=feedback_server.environment(self.folder,
-                                                                                     self.port))
+        return self.start_program(
+            ELSEWHERE, environment=feedback_environment(self.folder, self.port))
 
     def form(self, program):
         """The form's window on the screen, or None."""

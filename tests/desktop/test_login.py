@@ -47,9 +47,7 @@ class LoginTest(DesktopCase):
         os.mkdir(folder)
         copy = shutil.copy2(os.path.abspath(EXECUTABLE), folder)
         self.write_entry("Exec=/an/earlier/place")
-        program = Program(self.desktop, copy)
-        self.programs.append(program)
-        self.addCleanup(program.end)
+        program = self.start_program(copy)
         program.wait_until(lambda: "/an/earlier/place" not in self.read_entry(), 5.0,
                            "the entry names the place of today")
         program.end()
@@ -78,7 +76,8 @@ class LoginTest(DesktopCase):
 
     def test_a_session_manager_is_told_not_to_start_it_as_well(self):
         manager = SessionManager()
-        program = Program(self.desktop, EXECUTABLE, environment={"SESSION_MANAGER": manager.address})
+        program = Program(self.desktop, EXECUTABLE,
+                          environment={"SESSION_MANAGER": manager.address})
         self.programs.append(program)
         self.addCleanup(program.end)
         manager.serve_until(lambda: manager.saved, 5.0, "the program has saved itself")

@@ -11,8 +11,8 @@ from gi.repository import GLib
 import wait
 from case import DesktopCase, ELSEWHERE
 from controls import Controls
-from feed import Feed
 from notifications import Notifications
+from servers import Feed
 
 TITLE = "Corvane Quillet Updates"
 MENU_ENTRY = "Auf Updates prüfen …"

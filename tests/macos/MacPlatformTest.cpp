@@ -1,6 +1,7 @@
 #include "app/AppDelegate.h"
 
 #include "fakes/FakePlatform.h"
+#include "macos/NativeWindowRecord.h"
 #include "macos/cocoa/AppKitTest.h"
 #include "macos/fakes/c/AccessibilityFake.h"
 #include "macos/fakes/c/EventsFake.h"
@@ -9,9 +10,9 @@
 #include "platform/Platform.h"
 #include "platform/macos/ApplicationMenu.h"
 #include "platform/macos/AxAccessibility.h"
-#include "platform/macos/NativeWindow.h"
 #include "settings/AppSettingsManager.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QScreen>
 #include <QTemporaryDir>
@@ -19,39 +20,6 @@
 
 using appleFake::PostedEvent;
 using platform::Rect;
-
-namespace {
-
-/// What the layer asked of AppKit for the toolkit's windows, which here are not AppKit's.
-std::vector<std::string>& windowRecord() {
-    static std::vector<std::string> record;
-    return record;
-}
-
-} // namespace
-
-namespace platform::nativeWindow {
-
-void makeFloating(WId) {
-    windowRecord().emplace_back("make floating");
-}
-void orderFront(WId) {
-    windowRecord().emplace_back("order front");
-}
-void bringToFront(WId) {
-    windowRecord().emplace_back("bring to front");
-}
-void setMaterial(WId, const Rect&, const WindowMaterial& material) {
-    windowRecord().push_back("material " + std::to_string(material.material));
-}
-std::int64_t keyWindowNumber() {
-    return 0;
-}
-void becomeAccessory() {
-    windowRecord().emplace_back("become accessory");
-}
-
-} // namespace platform::nativeWindow
 
 namespace {
 
@@ -65,7 +33,7 @@ protected:
     MacPlatformTest() {
         qputenv("HOME", home_.path().toLocal8Bit());
         cocoaFake::clearUserDefaults();
-        windowRecord().clear();
+        nativeWindowRecord() = {};
         world = {};
         world.elements[notes]["AXFocusedUIElement"] = appleFake::element(note);
         world.elements[note] = {
@@ -130,7 +98,7 @@ TEST_F(MacPlatformTest,
        ASelectionBringsTheBarAndBoldPostsTwoEventsAtTheHidTapAfterATenthOfASecond) {
     delegate->applicationDidFinishLaunching();
     EXPECT_EQ(world.prompts, std::vector{true});
-    EXPECT_EQ(windowRecord(), std::vector<std::string>{"become accessory"});
+    EXPECT_EQ(nativeWindowRecord().calls, std::vector<std::string>{"accessory"});
     runLoop->advance(1);
     EXPECT_EQ(visible(QStringLiteral("bold")), nullptr);
 
@@ -154,9 +122,8 @@ TEST_F(MacPlatformTest,
     select(u"");
     runLoop->advance(0.3);
     EXPECT_EQ(visible(QStringLiteral("bold")), nullptr);
-    const std::vector<std::string> expected{"become accessory", "make floating", "order front",
-                                            "material 13"};
-    EXPECT_EQ(windowRecord(), expected);
+    const std::vector<std::string> expected{"accessory", "floating", "front", "material 13"};
+    EXPECT_EQ(nativeWindowRecord().calls, expected);
 }
 
 TEST_F(MacPlatformTest, TheShortcutPressedElsewhereBringsTheBarInKeyboardMode) {
@@ -193,7 +160,10 @@ TEST_F(MacPlatformTest, AnApplicationThatHangsChangesNothingAndAPasswordFieldHid
 
 TEST_F(MacPlatformTest, TheSettingsEntryOfTheApplicationsMenuOpensTheSettings) {
     delegate->applicationDidFinishLaunching();
-    std::static_pointer_cast<platform::ApplicationMenu>(system->foundation)->settings().trigger();
+    QAction& entry =
+        std::static_pointer_cast<platform::ApplicationMenu>(system->foundation)->settings();
+    EXPECT_EQ(entry.menuRole(), QAction::PreferencesRole);
+    entry.trigger();
     QCoreApplication::processEvents();
     std::vector<QString> titles;
     for (const QWidget* window : QApplication::topLevelWidgets()) {

@@ -150,19 +150,6 @@ TEST_F(AppSettingsManagerDeathTest, AStoredKeyCodeOutside16BitsStopsTheProcess) 
     EXPECT_DEATH(startWith(shortcutKeyCode, 70000.0), "key code");
 }
 
-TEST_F(AppSettingsManagerTest, EveryAssignmentIsWrittenAfterItWasPublished) {
-    AppSettingsManager& store = start();
-    std::vector<DefaultsValue> storedWhenTold;
-    const auto observer = store.appearanceDelay.observe(
-        [&](double) { storedWhenTold.push_back(defaults.values[appearanceDelay]); });
-    core::Published<double>& binding = store.appearanceDelay;
-    binding = 1.5;
-    binding.set(1.5);
-    EXPECT_THAT(storedWhenTold, ElementsAre(DefaultsValue(0.3), DefaultsValue(1.5)));
-    EXPECT_THAT(defaults.writes, ElementsAre(appearanceDelay, appearanceDelay));
-    EXPECT_EQ(defaults.values[appearanceDelay], DefaultsValue(1.5));
-}
-
 TEST_F(AppSettingsManagerTest, AnApplicationWithoutIdentifierIsNeverAllowed) {
     AppSettingsManager& store = start();
     EXPECT_FALSE(store.isAppAllowed(std::nullopt));

@@ -128,14 +128,4 @@ TEST_F(Settings, TheRowsStandWhereTheyBelong) {
     EXPECT_EQ(instant.top(), track.bottom() + 1 + 8);
     EXPECT_EQ(instant.left(), delay.left());
     EXPECT_EQ(place(QStringLiteral("2 seconds")).right(), track.right());
-
-    click(byShortcut);
-    const QRect label = place(QStringLiteral("Keyboard shortcut:"));
-    EXPECT_EQ(label.left(), delay.left());
-    EXPECT_EQ(label.center().y(), place(recorder).center().y());
-    EXPECT_EQ(place(recorder).right(), track.right());
-    EXPECT_EQ(
-        place(QStringLiteral("Press the shortcut when text is selected to show the formatting bar"))
-            .left(),
-        delay.left());
 }

@@ -2,6 +2,7 @@
 #include "ui/RadioGroup.h"
 #include "ui/Slider.h"
 #include "ui/Stack.h"
+#include "ui/Theme.h"
 #include "ui/TitledWindow.h"
 #include "ui/Toggle.h"
 

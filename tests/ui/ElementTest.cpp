@@ -65,13 +65,6 @@ TEST_F(Elements, ModifiersWorkFromTheInsideOut) {
     EXPECT_EQ(QRect(symbol->mapTo(&host, QPoint()), symbol->size()), QRect(25, 25, 10, 10));
 }
 
-TEST_F(Elements, TheSecondBackgroundLiesBehindTheFirst) {
-    ui::HostingView host(ui::spacer() | ui::frame({.width = 20, .height = 20}) |
-                         ui::background({}, plain(Qt::red)) | ui::background({}, plain(Qt::blue)));
-    host.resize(20, 20);
-    EXPECT_EQ(pixel(host, {10, 10}), QColor(Qt::red));
-}
-
 TEST_F(Elements, AStackKeepsItsChildrenTogetherInTheMiddleOfAFrame) {
     ui::HostingView host(
         ui::hstack({.spacing = 2}, ui::symbol(QStringLiteral("a"), {.pointSize = 14}),

@@ -1,29 +1,28 @@
 #include "platform/macos/MacWindowServer.h"
 
+#include "macos/NativeWindowRecord.h"
 #include "platform/macos/NativeWindow.h"
 
 #include <QWidget>
 #include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
 
 using platform::KeyboardFocus;
 using platform::Rect;
 
 namespace {
 
-/// What was asked of the native windows; each call notes whether the window was visible.
-std::vector<std::string> native;
-Rect materialFrame;
-
-void note(const char* what, WId view) {
+void note(const std::string& what, WId view) {
     const QWidget* const window = QWidget::find(view);
-    native.push_back(std::string(what) +
-                     (window != nullptr && window->isVisible() ? "" : " early"));
+    nativeWindowRecord().calls.push_back(
+        what + (window != nullptr && window->isVisible() ? "" : " early"));
 }
 
 } // namespace
+
+NativeWindowRecord& nativeWindowRecord() {
+    static NativeWindowRecord record;
+    return record;
+}
 
 namespace platform::nativeWindow {
 
@@ -37,14 +36,15 @@ void bringToFront(WId view) {
     note("key", view);
 }
 void setMaterial(WId view, const Rect& frame, const WindowMaterial& material) {
-    note("material", view);
-    materialFrame = frame;
-    EXPECT_EQ(material.material, 13);
+    note("material " + std::to_string(material.material), view);
+    nativeWindowRecord().materialFrame = frame;
 }
 std::int64_t keyWindowNumber() {
     return 0;
 }
-void becomeAccessory() {}
+void becomeAccessory() {
+    nativeWindowRecord().calls.emplace_back("accessory");
+}
 
 } // namespace platform::nativeWindow
 
@@ -52,8 +52,9 @@ namespace {
 
 class MacWindowServerTest : public testing::Test {
 protected:
-    MacWindowServerTest() { native.clear(); }
+    MacWindowServerTest() { nativeWindowRecord() = {}; }
 
+    const std::vector<std::string>& native = nativeWindowRecord().calls;
     platform::MacWindowServer windowServer;
     QWidget window;
 };
@@ -69,8 +70,8 @@ TEST_F(MacWindowServerTest, TheBarIsMadeFloatingAnewEachTimeItIsShownAndNeverTak
     EXPECT_FALSE(window.isVisible());
     windowServer.orderFront(window);
     EXPECT_EQ(native,
-              (std::vector<std::string>{"floating", "front", "material", "floating", "front"}));
-    EXPECT_EQ(materialFrame, (Rect{10, 4, 570, 38}));
+              (std::vector<std::string>{"floating", "front", "material 13", "floating", "front"}));
+    EXPECT_EQ(nativeWindowRecord().materialFrame, (Rect{10, 4, 570, 38}));
     EXPECT_EQ(windowServer.frame(window), (Rect{100, 200, 590, 44}));
     const Qt::WindowFlags flags = window.windowFlags();
     EXPECT_EQ(flags & Qt::WindowType_Mask, Qt::Window);

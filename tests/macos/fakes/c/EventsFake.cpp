@@ -4,6 +4,7 @@ namespace {
 
 using appleFake::checked;
 using appleFake::events;
+using appleFake::made;
 using appleFake::Object;
 
 struct EventObject final : Object {
@@ -30,8 +31,7 @@ appleFake::Events& appleFake::events() {
 
 CGEventSourceRef CGEventSourceCreate(CGEventSourceStateID state) {
     events().sources.push_back(state);
-    return events().sourceCanBeMade ? static_cast<CGEventSourceRef>(const_cast<void*>(
-                                          appleFake::keep(new Object(appleFake::EventSource))))
+    return events().sourceCanBeMade ? made<CGEventSourceRef>(new Object(appleFake::EventSource))
                                     : nullptr;
 }
 
@@ -43,8 +43,7 @@ CGEventRef CGEventCreateKeyboardEvent(CGEventSourceRef source, CGKeyCode key, bo
         return nullptr;
     }
     const CGEventFlags flags = source != nullptr ? events().flagsOfSource : 0;
-    return static_cast<CGEventRef>(
-        const_cast<void*>(appleFake::keep(new EventObject(key, isDown, flags))));
+    return made<CGEventRef>(new EventObject(key, isDown, flags));
 }
 
 void CGEventSetFlags(CGEventRef reference, CGEventFlags flags) {

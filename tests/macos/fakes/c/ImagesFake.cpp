@@ -6,6 +6,7 @@ namespace {
 
 using appleFake::checked;
 using appleFake::images;
+using appleFake::made;
 using appleFake::Object;
 
 struct ImageObject final : Object {
@@ -29,11 +30,6 @@ struct ContextObject final : Object {
     std::size_t height;
     std::size_t bytesPerRow;
 };
-
-template <typename Reference>
-Reference made(Object* object) {
-    return static_cast<Reference>(const_cast<void*>(appleFake::keep(object)));
-}
 
 ImageObject& image(CGImageRef reference, const char* caller) {
     return checked<ImageObject>(reference, appleFake::Image, caller);

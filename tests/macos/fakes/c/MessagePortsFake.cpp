@@ -3,6 +3,7 @@
 namespace {
 
 using appleFake::checked;
+using appleFake::made;
 using appleFake::messagePorts;
 using appleFake::Object;
 
@@ -24,11 +25,6 @@ struct SourceObject final : Object {
 
 /// The port of this process that has the name.
 CFMessagePortRef registered = nullptr;
-
-template <typename Reference>
-Reference made(Object* object) {
-    return static_cast<Reference>(const_cast<void*>(appleFake::keep(object)));
-}
 
 PortObject& port(CFMessagePortRef reference, const char* caller) {
     return checked<PortObject>(reference, appleFake::Port, caller);

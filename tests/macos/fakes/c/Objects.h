@@ -47,6 +47,12 @@ struct StringObject final : Object {
 /// reference.
 const void* keep(Object* object);
 
+/// The same, as what the real system calls it.
+template <typename Reference>
+Reference made(Object* object) {
+    return static_cast<Reference>(const_cast<void*>(keep(object)));
+}
+
 /// The object behind a reference. Stops the process for null, for what is no object, for a released
 /// one and for another type.
 Object& checked(const void* reference, const char* caller);

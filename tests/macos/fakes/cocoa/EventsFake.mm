@@ -62,24 +62,10 @@ void sendElsewhere(NSEventMask kind, const KeyDown& key) {
 } // namespace
 
 @implementation NSEvent
-- (id)init {
-    cocoaFake::born();
-    return [super init];
-}
-- (void)dealloc {
-    cocoaFake::states<KeyDown>().erase(self);
-    cocoaFake::died();
-    [super dealloc];
-}
-- (NSEventModifierFlags)modifierFlags {
-    return stateOf<KeyDown>(self).modifierFlags;
-}
-- (unsigned short)keyCode {
-    return stateOf<KeyDown>(self).keyCode;
-}
-- (BOOL)isARepeat {
-    return stateOf<KeyDown>(self).repeated;
-}
+COUNTED(KeyDown)
+ANSWERS(NSEventModifierFlags, modifierFlags, KeyDown, modifierFlags)
+ANSWERS(unsigned short, keyCode, KeyDown, keyCode)
+ANSWERS(BOOL, isARepeat, KeyDown, repeated)
 + (NSPoint)mouseLocation {
     return NSMakePoint(appKit().mouseLocation.x, appKit().mouseLocation.y);
 }

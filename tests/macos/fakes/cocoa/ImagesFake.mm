@@ -41,6 +41,7 @@ NSString* NSDeviceRGBColorSpace = @"NSDeviceRGBColorSpace";
 @end
 
 @implementation NSBitmapImageRep
+COUNTED(Bitmap)
 - (id)initWithBitmapDataPlanes:(unsigned char**)planes
                     pixelsWide:(NSInteger)width
                     pixelsHigh:(NSInteger)height
@@ -51,8 +52,7 @@ NSString* NSDeviceRGBColorSpace = @"NSDeviceRGBColorSpace";
                 colorSpaceName:(NSString*)space
                    bytesPerRow:(NSInteger)bytes
                   bitsPerPixel:(NSInteger)bits {
-    self = [super init];
-    cocoaFake::born();
+    self = [self init];
     const bool asExpected = planes == nullptr && bitsPerSample == 8 && samplesPerPixel == 4 &&
                             alpha && !planar && bytes == 0 && bits == 0 &&
                             [space isEqualToString:NSDeviceRGBColorSpace];
@@ -62,11 +62,6 @@ NSString* NSDeviceRGBColorSpace = @"NSDeviceRGBColorSpace";
         bitmap.bytes.resize(static_cast<std::size_t>(bytesPerRow(bitmap) * bitmap.size.height()));
     }
     return self;
-}
-- (void)dealloc {
-    cocoaFake::states<Bitmap>().erase(self);
-    cocoaFake::died();
-    [super dealloc];
 }
 - (unsigned char*)bitmapData {
     return stateOf<Bitmap>(self).bytes.empty() ? nullptr : stateOf<Bitmap>(self).bytes.data();
@@ -109,15 +104,7 @@ NSString* NSDeviceRGBColorSpace = @"NSDeviceRGBColorSpace";
 @end
 
 @implementation NSImage
-- (id)init {
-    cocoaFake::born();
-    return [super init];
-}
-- (void)dealloc {
-    cocoaFake::states<Image>().erase(self);
-    cocoaFake::died();
-    [super dealloc];
-}
+COUNTED(Image)
 + (id)imageWithSystemSymbolName:(NSString*)name accessibilityDescription:(NSString*)description {
     const auto known = services().symbols.find(platform::toQString(name));
     if (known == services().symbols.end() || description != nil) {
@@ -135,12 +122,8 @@ NSString* NSDeviceRGBColorSpace = @"NSDeviceRGBColorSpace";
                      : NSMakeSize(self.size.width * pointSize, self.size.height * pointSize);
     return image;
 }
-- (NSSize)size {
-    return stateOf<Image>(self).size;
-}
-- (void)setSize:(NSSize)size {
-    stateOf<Image>(self).size = size;
-}
+ANSWERS(NSSize, size, Image, size)
+RECORDS(setSize, NSSize, Image, size)
 - (void)drawInRect:(NSRect)target
           fromRect:(NSRect)source
          operation:(NSCompositingOperation)operation

@@ -31,3 +31,24 @@ inline NSRect toNSRect(const platform::Rect& rect) {
 }
 
 } // namespace cocoaFake
+
+/// The first and the last method of a fake whose objects are counted and have a state.
+#define COUNTED(State)                                                                             \
+    -(id)init {                                                                                    \
+        cocoaFake::born();                                                                         \
+        return [super init];                                                                       \
+    }                                                                                              \
+    -(void)dealloc {                                                                               \
+        cocoaFake::states<State>().erase(self);                                                    \
+        cocoaFake::died();                                                                         \
+        [super dealloc];                                                                           \
+    }
+/// A method that answers a field of the state, or sets it.
+#define ANSWERS(Type, method, State, field)                                                        \
+    -(Type)method {                                                                                \
+        return cocoaFake::stateOf<State>(self).field;                                              \
+    }
+#define RECORDS(method, Type, State, field)                                                        \
+    -(void)method : (Type)value {                                                                  \
+        cocoaFake::stateOf<State>(self).field = value;                                             \
+    }

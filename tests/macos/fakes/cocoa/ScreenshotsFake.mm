@@ -73,9 +73,7 @@ void answer(const std::function<void()>& call) {
 } // namespace
 
 @implementation SCWindow
-- (CGWindowID)windowID {
-    return stateOf<ShownWindow>(self).number;
-}
+ANSWERS(CGWindowID, windowID, ShownWindow, number)
 - (CGRect)frame {
     return toCGRect(stateOf<ShownWindow>(self).frame);
 }
@@ -100,18 +98,14 @@ void answer(const std::function<void()>& call) {
     SCShareableContent* const found = excluding ? nil : content(window.windowID);
     answer([&] { handler(found, nil); });
 }
-- (NSArray*)windows {
-    return stateOf<Content>(self).windows;
-}
-- (NSArray*)displays {
-    return stateOf<Content>(self).displays;
-}
+ANSWERS(NSArray*, windows, Content, windows)
+ANSWERS(NSArray*, displays, Content, displays)
 @end
 
 @implementation SCContentFilter
+COUNTED(Filter)
 - (id)initWithDisplay:(SCDisplay*)display includingWindows:(NSArray*)windows {
-    self = [super init];
-    cocoaFake::born();
+    self = [self init];
     auto& filter = stateOf<Filter>(self);
     filter.display = stateOf<Display>(display);
     for (NSUInteger index = 0; index < [windows count]; ++index) {
@@ -119,11 +113,6 @@ void answer(const std::function<void()>& call) {
             stateOf<ShownWindow>([windows objectAtIndex:index]).number);
     }
     return self;
-}
-- (void)dealloc {
-    cocoaFake::states<Filter>().erase(self);
-    cocoaFake::died();
-    [super dealloc];
 }
 - (float)pointPixelScale {
     return static_cast<float>(stateOf<Filter>(self).display.pixelsPerPoint);
@@ -134,24 +123,14 @@ void answer(const std::function<void()>& call) {
 @end
 
 @implementation SCStreamConfiguration
-- (id)init {
-    cocoaFake::born();
-    return [super init];
-}
-- (void)dealloc {
-    cocoaFake::states<Capture>().erase(self);
-    cocoaFake::died();
-    [super dealloc];
-}
+COUNTED(Capture)
 - (void)setWidth:(std::size_t)width {
     stateOf<Capture>(self).pixels.setWidth(static_cast<int>(width));
 }
 - (void)setHeight:(std::size_t)height {
     stateOf<Capture>(self).pixels.setHeight(static_cast<int>(height));
 }
-- (void)setShowsCursor:(BOOL)shows {
-    stateOf<Capture>(self).cursor = shows;
-}
+RECORDS(setShowsCursor, BOOL, Capture, cursor)
 - (void)setIgnoreShadowsDisplay:(BOOL)ignore {
     stateOf<Capture>(self).shadows = !ignore;
 }

@@ -47,24 +47,14 @@ BOOL answer(NSError** error) {
 @end
 
 @implementation NSAlert
-- (id)init {
-    cocoaFake::born();
-    return [super init];
-}
-- (void)dealloc {
-    cocoaFake::states<ShownAlert>().erase(self);
-    cocoaFake::died();
-    [super dealloc];
-}
+COUNTED(ShownAlert)
 - (void)setMessageText:(NSString*)text {
     stateOf<ShownAlert>(self).messageText = platform::toQString(text);
 }
 - (void)setInformativeText:(NSString*)text {
     stateOf<ShownAlert>(self).informativeText = platform::toQString(text);
 }
-- (void)setAlertStyle:(NSAlertStyle)style {
-    stateOf<ShownAlert>(self).style = style;
-}
+RECORDS(setAlertStyle, NSAlertStyle, ShownAlert, style)
 - (NSButton*)addButtonWithTitle:(NSString*)title {
     stateOf<ShownAlert>(self).buttons.push_back(platform::toQString(title));
     return nil;

@@ -33,23 +33,11 @@ NSView* viewOf(WId view) {
 @end
 
 @implementation CALayer
-- (void)dealloc {
-    cocoaFake::states<Effect>().erase(self);
-    cocoaFake::died();
-    [super dealloc];
-}
-- (void)setCornerRadius:(CGFloat)radius {
-    stateOf<Effect>(self).cornerRadius = radius;
-}
-- (CGFloat)cornerRadius {
-    return stateOf<Effect>(self).cornerRadius;
-}
-- (void)setMasksToBounds:(BOOL)masks {
-    stateOf<Effect>(self).masksToBounds = masks;
-}
-- (BOOL)masksToBounds {
-    return stateOf<Effect>(self).masksToBounds;
-}
+COUNTED(Effect)
+RECORDS(setCornerRadius, CGFloat, Effect, cornerRadius)
+ANSWERS(CGFloat, cornerRadius, Effect, cornerRadius)
+RECORDS(setMasksToBounds, BOOL, Effect, masksToBounds)
+ANSWERS(BOOL, masksToBounds, Effect, masksToBounds)
 @end
 
 @implementation NSResponder
@@ -70,30 +58,17 @@ NSView* viewOf(WId view) {
     cocoaFake::died();
     [super dealloc];
 }
-- (NSRect)frame {
-    return stateOf<View>(self).frame;
-}
-- (void)setFrame:(NSRect)frame {
-    stateOf<View>(self).frame = frame;
-}
-- (NSWindow*)window {
-    return stateOf<View>(self).window;
-}
-- (NSView*)superview {
-    return stateOf<View>(self).superview;
-}
-- (NSArray*)subviews {
-    return stateOf<View>(self).subviews;
-}
+ANSWERS(NSRect, frame, View, frame)
+RECORDS(setFrame, NSRect, View, frame)
+ANSWERS(NSWindow*, window, View, window)
+ANSWERS(NSView*, superview, View, superview)
+ANSWERS(NSArray*, subviews, View, subviews)
 - (void)setWantsLayer:(BOOL)wants {
     if (wants && stateOf<View>(self).layer == nil) {
-        cocoaFake::born();
         stateOf<View>(self).layer = [[CALayer alloc] init];
     }
 }
-- (CALayer*)layer {
-    return stateOf<View>(self).layer;
-}
+ANSWERS(CALayer*, layer, View, layer)
 - (void)addSubview:(NSView*)view positioned:(NSWindowOrderingMode)place relativeTo:(NSView*)other {
     NSMutableArray* const all = stateOf<View>(self).subviews;
     const bool above = place == NSWindowAbove;
@@ -110,15 +85,9 @@ NSView* viewOf(WId view) {
     cocoaFake::states<Effect>().erase(self);
     [super dealloc];
 }
-- (void)setMaterial:(NSVisualEffectMaterial)material {
-    stateOf<Effect>(self).material = material;
-}
-- (void)setBlendingMode:(NSVisualEffectBlendingMode)mode {
-    stateOf<Effect>(self).blendingMode = mode;
-}
-- (void)setState:(NSVisualEffectState)state {
-    stateOf<Effect>(self).state = state;
-}
+RECORDS(setMaterial, NSVisualEffectMaterial, Effect, material)
+RECORDS(setBlendingMode, NSVisualEffectBlendingMode, Effect, blendingMode)
+RECORDS(setState, NSVisualEffectState, Effect, state)
 @end
 
 @implementation NSWindow
@@ -127,24 +96,12 @@ NSView* viewOf(WId view) {
     cocoaFake::died();
     [super dealloc];
 }
-- (void)setStyleMask:(NSWindowStyleMask)mask {
-    stateOf<Window>(self).styleMask = mask;
-}
-- (void)setLevel:(NSWindowLevel)level {
-    stateOf<Window>(self).level = level;
-}
-- (void)setCollectionBehavior:(NSWindowCollectionBehavior)behavior {
-    stateOf<Window>(self).collectionBehavior = behavior;
-}
-- (void)setHasShadow:(BOOL)has {
-    stateOf<Window>(self).hasShadow = has;
-}
-- (void)setMovable:(BOOL)movable {
-    stateOf<Window>(self).movable = movable;
-}
-- (void)setOpaque:(BOOL)opaque {
-    stateOf<Window>(self).opaque = opaque;
-}
+RECORDS(setStyleMask, NSWindowStyleMask, Window, styleMask)
+RECORDS(setLevel, NSWindowLevel, Window, level)
+RECORDS(setCollectionBehavior, NSWindowCollectionBehavior, Window, collectionBehavior)
+RECORDS(setHasShadow, BOOL, Window, hasShadow)
+RECORDS(setMovable, BOOL, Window, movable)
+RECORDS(setOpaque, BOOL, Window, opaque)
 - (void)setBackgroundColor:(NSColor*)color {
     stateOf<Window>(self).clear = color == [NSColor clearColor];
 }

@@ -37,18 +37,8 @@ NSRunningApplication* running(int process) {
 + (id)runningApplicationWithProcessIdentifier:(pid_t)pid {
     return running(pid);
 }
-- (id)init {
-    cocoaFake::born();
-    return [super init];
-}
-- (void)dealloc {
-    cocoaFake::states<Application>().erase(self);
-    cocoaFake::died();
-    [super dealloc];
-}
-- (pid_t)processIdentifier {
-    return stateOf<Application>(self).processIdentifier;
-}
+COUNTED(Application)
+ANSWERS(pid_t, processIdentifier, Application, processIdentifier)
 - (NSString*)bundleIdentifier {
     return orNil(stateOf<Application>(self).bundleIdentifier);
 }
