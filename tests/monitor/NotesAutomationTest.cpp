@@ -51,7 +51,8 @@ using NotesAutomationDeathTest = NotesAutomationTest;
 TEST_F(NotesAutomationTest, AHeadingLevelThatDoesNotExistIsBodyText) {
     const Shortcut body = NotesAutomation::headingShortcut(0);
     EXPECT_EQ(body, NotesAutomation::formatShortcut(TextFormat::removeFormatting));
-    for (const auto level : {4, -1, std::numeric_limits<bar::HeadingLevel>::min()}) {
+    constexpr auto smallest = std::numeric_limits<bar::HeadingLevel>::min();
+    for (const bar::HeadingLevel level : {bar::HeadingLevel{4}, bar::HeadingLevel{-1}, smallest}) {
         EXPECT_EQ(NotesAutomation::headingShortcut(level), body) << level;
     }
     EXPECT_EQ(NotesAutomation::formatShortcut(TextFormat::heading),
