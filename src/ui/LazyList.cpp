@@ -27,8 +27,8 @@ LazyList::LazyList(int rowHeight)
 
 void LazyList::setRows(Rows rows) {
     for (const auto& [index, row] : std::exchange(visible_, {})) {
-        row->deleteLater();
-        row->hide();
+        // Not later: of keys that come faster than they are handled, each would leave its rows.
+        delete row;
     }
     rows_ = std::move(rows);
     current_ = 0;

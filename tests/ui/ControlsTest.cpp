@@ -1,4 +1,6 @@
 #include "fakes/FakePlatform.h"
+#include "ui/Label.h"
+#include "ui/List.h"
 #include "ui/RadioGroup.h"
 #include "ui/Slider.h"
 #include "ui/Stack.h"
@@ -8,6 +10,7 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QPointer>
 #include <QTest>
 #include <QWindow>
 #include <gmock/gmock.h>
@@ -108,6 +111,17 @@ TEST_F(Controls, ASliderThatAssistiveTechnologySetsGoesToTheNearestStop) {
     slider.setEnabled(false);
     range.setCurrentValue(1.0);
     EXPECT_EQ(value->get(), 0.0);
+}
+
+TEST_F(Controls, AListLetsItsFormerRowsGoAtOnce) {
+    const auto items = ui::state(std::vector{QStringLiteral("a"), QStringLiteral("b")});
+    show(ui::list<QString>(items, {.accessibilityLabel = QStringLiteral("Letters"),
+                                   .row = [](const QString& item) { return ui::text(item); },
+                                   .name = [](const QString& item) { return item; },
+                                   .activate = [](const QString&) {}}));
+    const QPointer<QWidget> former = only<ui::LazyList>().row(1);
+    items->set({QStringLiteral("c")});
+    EXPECT_TRUE(former.isNull()) << "it waits for the event loop, as would those of every next key";
 }
 
 } // namespace
