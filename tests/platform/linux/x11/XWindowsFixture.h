@@ -71,7 +71,9 @@ protected:
     static constexpr platform::ProcessIdentifier unknownProcess = 4000002;
 
     XUser user;
-    std::unique_ptr<platform::XcbDisplay> applications = platform::XcbDisplay::connect();
+    /// Other programs wait for a busy server longer than this one does.
+    std::unique_ptr<platform::XcbDisplay> applications =
+        platform::XcbDisplay::connect(std::chrono::seconds(10));
     QTemporaryDir folder;
     fakes::VirtualRunLoop runLoop;
     std::shared_ptr<platform::XcbConnection> connection = platform::XcbConnection::open();
