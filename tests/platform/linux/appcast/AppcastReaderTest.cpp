@@ -98,7 +98,8 @@ TEST(AppcastReader, takes_the_version_from_wherever_it_stands_and_leaves_other_s
 TEST(AppcastReader, has_no_page_but_what_a_browser_shows) {
     for (const char* url : {"javascript:alert(1)", "file:///etc/passwd", "http:/etc/passwd", "",
                             "//quillet.invalid/x", "data:text/html,x", "https://", "not a url",
-                            "x-apple.systempreferences:x", "https ://quillet.invalid"}) {
+                            "x-apple.systempreferences:x", "https ://quillet.invalid",
+                            "ftp://quillet.invalid/x"}) {
         const Items items =
             itemsOf(QByteArray("<item><s:version>2</s:version><link>") + url +
                     "</link><s:releaseNotesLink>" + url + "</s:releaseNotesLink></item>");

@@ -1,7 +1,8 @@
 #include "platform/linux/appcast/ReleaseNotes.h"
 
-#include <QElapsedTimer>
 #include <gtest/gtest.h>
+
+#include <ctime>
 
 using namespace Qt::StringLiterals;
 
@@ -43,11 +44,11 @@ TEST(ReleaseNotes, are_the_words_of_the_markup) {
 TEST(ReleaseNotes, take_no_longer_however_much_is_nested_and_end_somewhere) {
     for (const char* piece : {"<div>", "<ul><li>", "<!--", "<script>", "&amp", "&", "<a ", "<",
                               "<table><tr><td colspan=60000>", "<br>", "x"}) {
-        QElapsedTimer timer;
-        timer.start();
+        // Of the processor's time, of which a busy machine takes none away.
+        const std::clock_t start = std::clock();
         const QString text =
             releaseNotesText(QString::fromLatin1(piece).repeated(100'000 / 2), NotesFormat::Html);
-        EXPECT_LT(timer.elapsed(), 2'000) << piece;
+        EXPECT_LT(std::clock() - start, 2 * CLOCKS_PER_SEC) << piece;
         EXPECT_LE(text.size(), 20'010) << piece;
     }
 }
