@@ -30,7 +30,7 @@ if [ "$(uname)" = Darwin ]; then
         exit 1
     fi
     missing=$(wanted brew "$@" | while read -r package; do
-        brew list --versions "$package" > /dev/null 2>&1 || echo "$package"
+        brew list --versions "$package" < /dev/null > /dev/null 2>&1 || echo "$package"
     done)
     # shellcheck disable=SC2086 # one word a package
     [ -z "$missing" ] || brew install $missing

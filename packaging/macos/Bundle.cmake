@@ -18,6 +18,9 @@ function(quillet_bundle target)
         MACOSX_BUNDLE_INFO_PLIST ${information}
         INSTALL_RPATH "@executable_path/../Frameworks")
     quillet_bundle_icon(${target})
+    # The signature covers them, so whatever changes them must lead to the signing below.
+    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS
+        ${information} ${resources}/entitlements.plist ${CMAKE_CURRENT_BINARY_DIR}/corvane-quillet.icns)
 
     if(QUILLET_UPDATER_FRAMEWORK)
         add_custom_command(TARGET ${target} POST_BUILD

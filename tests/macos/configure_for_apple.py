@@ -10,6 +10,7 @@ itself (which folders, sources, flags and frameworks) is then as on a Mac; nothi
 import json
 import os
 import pathlib
+import re
 import shutil
 import subprocess
 import sys
@@ -61,6 +62,11 @@ def main():
               ("Corvane Quillet.app/Contents/Resources/corvane-quillet.icns", "iconutil --convert icns",
                "codesign --force --sign - --identifier com.corvane.Quillet --entitlements")
               if step not in plan.replace("$ ", " ")]
+    link = re.search(r"^build Corvane Quillet.app/Contents/MacOS/Corvane Quillet: .*$", plan.replace("$ ", " "),
+                     re.MULTILINE)
+    wrong += [f"a change of {part} does not lead to a new signature"
+              for part in ("Info.plist", "entitlements.plist", "corvane-quillet.icns")
+              if not link or not re.search(rf" \S*/{re.escape(part)}( |$)", link[0])]
     if "-fobjc-arc" not in plan:
         wrong.append("Objective-C++ is built without reference counting")
     print("\n".join(wrong) if wrong else "configured as on a Mac")
