@@ -34,7 +34,8 @@ AppDelegate::AppDelegate(platform::Platform& platform, settings::AppSettingsMana
     , updaterController_(*platform.updater)
     , updateController_(std::make_unique<updates::UpdateController>(platform))
     , updatePresenter_(updaterController_.setPresenter(*updateController_))
-    , menuTracking_(statusMenu_.menu(), *platform.runLoop, *platform.pointerMonitor) {}
+    , menuTracking_(statusMenu_.menu(), *platform.runLoop, *platform.pointerMonitor,
+                    platform.statusItem->menuClosing()) {}
 
 AppDelegate::~AppDelegate() = default;
 
@@ -71,9 +72,9 @@ void AppDelegate::setupMenuBar() {
     connect(&statusMenu_.feedback(), &QAction::triggered, this, [this] { openFeedback(); });
     connect(&statusMenu_.quit(), &QAction::triggered, QCoreApplication::instance(),
             &QCoreApplication::quit);
-    statusItem_ =
-        platform_.statusItem->show(statusIcon(*platform_.symbols, QStringLiteral("textformat.alt")),
-                                   QStringLiteral("Corvane Quillet"), statusMenu_.menu());
+    const QString symbol = QStringLiteral("textformat.alt");
+    statusItem_ = platform_.statusItem->show(symbol, statusIcon(*platform_.symbols, symbol),
+                                             QStringLiteral("Corvane Quillet"), statusMenu_.menu());
 }
 
 void AppDelegate::setupMonitoring() {
@@ -163,8 +164,8 @@ void AppDelegate::openFeedback(const platform::ActivationToken& token) {
                         }
                     }});
     if (!feedbackWindow_) {
-        feedbackWindow_ = std::make_unique<ui::TitledWindow>(QStringLiteral("Feedback senden"),
-                                                             QSize(540, 540));
+        feedbackWindow_ =
+            std::make_unique<ui::TitledWindow>(QStringLiteral("Feedback senden"), QSize(540, 540));
     }
     feedbackWindow_->setContent(feedback::FeedbackSheet{form});
     platform_.windowServer->bringToFront(*feedbackWindow_, token);

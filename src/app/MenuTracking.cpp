@@ -5,10 +5,11 @@
 namespace app {
 
 MenuTracking::MenuTracking(QMenu& menu, platform::RunLoop& runLoop,
-                           platform::PointerMonitor& pointerMonitor)
+                           platform::PointerMonitor& pointerMonitor, platform::MenuClosing closing)
     : menu_(menu)
     , runLoop_(runLoop)
-    , pointerMonitor_(pointerMonitor) {
+    , pointerMonitor_(pointerMonitor)
+    , closing_(closing) {
     connect(&menu, &QMenu::aboutToShow, this, &MenuTracking::begin);
     connect(&menu, &QMenu::aboutToHide, this, &MenuTracking::end);
     connect(&menu, &QMenu::triggered, this, &MenuTracking::end);
@@ -23,7 +24,9 @@ void MenuTracking::begin() {
         open_ = true;
         runLoop_.beginMenuTracking();
     }
-    watchUnseenMenu();
+    if (closing_ == platform::MenuClosing::Guessed) {
+        watchUnseenMenu();
+    }
 }
 
 void MenuTracking::end() {

@@ -30,7 +30,7 @@ protected:
     QMenu menu;
     QAction* entry = menu.addAction(QStringLiteral("Entry"));
     std::optional<app::MenuTracking> tracking{std::in_place, menu, fakes.runLoop,
-                                              fakes.pointerMonitor};
+                                              fakes.pointerMonitor, platform::MenuClosing::Guessed};
 
 private:
     core::Registration poll_;
@@ -72,6 +72,16 @@ TEST_F(MenuTrackingTest, APanelThatNeverSaysClosedHoldsThePollForThreeSeconds) {
     fakes.runLoop.advance(2.7);
     EXPECT_TRUE(pollRests());
     fakes.runLoop.advance(0.1);
+    EXPECT_FALSE(pollRests());
+}
+
+TEST_F(MenuTrackingTest, ASystemThatSurelySaysClosedHoldsThePollUntilThen) {
+    tracking.emplace(menu, fakes.runLoop, fakes.pointerMonitor, platform::MenuClosing::Told);
+    openInPanel();
+    fakes.runLoop.advance(60);
+    fakes.pointerMonitor.events.notify({platform::DismissReason::PointerPressed, {}});
+    EXPECT_TRUE(pollRests());
+    Q_EMIT menu.aboutToHide();
     EXPECT_FALSE(pollRests());
 }
 

@@ -133,8 +133,8 @@ platform::LoginItem::Error FakeLoginItem::unregisterItem() {
     return error;
 }
 
-core::Registration FakeStatusItem::show(const QIcon& icon, const QString& accessibilityDescription,
-                                        QMenu& m) {
+core::Registration FakeStatusItem::show(const QString&, const QIcon& icon,
+                                        const QString& accessibilityDescription, QMenu& m) {
     hasIcon = !icon.isNull();
     description = accessibilityDescription;
     menu = &m;

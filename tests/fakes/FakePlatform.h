@@ -185,8 +185,9 @@ struct FakeStatusItem final : platform::StatusItem {
     QMenu* menu = nullptr;
     bool hasIcon = false;
 
-    core::Registration show(const QIcon& icon, const QString& accessibilityDescription,
-                            QMenu& m) override;
+    core::Registration show(const QString& symbolName, const QIcon& icon,
+                            const QString& accessibilityDescription, QMenu& m) override;
+    platform::MenuClosing menuClosing() const override { return platform::MenuClosing::Guessed; }
 };
 
 struct FakeAlerts final : platform::Alerts {

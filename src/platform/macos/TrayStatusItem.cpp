@@ -7,9 +7,11 @@ namespace platform {
 TrayStatusItem::TrayStatusItem() = default;
 TrayStatusItem::~TrayStatusItem() = default;
 
-core::Registration TrayStatusItem::show(const QIcon& icon, const QString& accessibilityDescription,
-                                        QMenu& menu) {
-    QIcon mask = icon;
+core::Registration TrayStatusItem::show(const QString& symbolName, const QIcon& icon,
+                                        const QString& accessibilityDescription, QMenu& menu) {
+    // Later versions of the toolkit take the system's symbols for a theme, and give the item the
+    // symbol itself and its width.
+    QIcon mask = QIcon::fromTheme(symbolName, icon);
     mask.setIsMask(true);
     item_ = std::make_unique<QSystemTrayIcon>(mask);
     item_->setToolTip(accessibilityDescription);

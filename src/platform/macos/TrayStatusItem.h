@@ -15,8 +15,9 @@ public:
     TrayStatusItem();
     ~TrayStatusItem() override;
 
-    core::Registration show(const QIcon& icon, const QString& accessibilityDescription,
-                            QMenu& menu) override;
+    core::Registration show(const QString& symbolName, const QIcon& icon,
+                            const QString& accessibilityDescription, QMenu& menu) override;
+    MenuClosing menuClosing() const override { return MenuClosing::Told; }
 
 private:
     std::unique_ptr<QSystemTrayIcon> item_;

@@ -15,7 +15,7 @@ StatusNotifierStatusItem::StatusNotifierStatusItem(RunLoop& runLoop, TrayHost& s
 
 StatusNotifierStatusItem::~StatusNotifierStatusItem() = default;
 
-core::Registration StatusNotifierStatusItem::show(const QIcon& icon,
+core::Registration StatusNotifierStatusItem::show(const QString&, const QIcon& icon,
                                                   const QString& accessibilityDescription,
                                                   QMenu& menu) {
     icon_ = icon;

@@ -22,8 +22,10 @@ public:
     StatusNotifierStatusItem(RunLoop& runLoop, TrayHost& statusNotifier, TrayHost& xembed);
     ~StatusNotifierStatusItem() override;
 
-    core::Registration show(const QIcon& icon, const QString& accessibilityDescription,
-                            QMenu& menu) override;
+    core::Registration show(const QString& symbolName, const QIcon& icon,
+                            const QString& accessibilityDescription, QMenu& menu) override;
+    /// The panel draws it.
+    MenuClosing menuClosing() const override { return MenuClosing::Guessed; }
 
     /// Sends the icon again when the desktop's text colour, which the menu shares, has changed.
     bool eventFilter(QObject* watched, QEvent* event) override;
