@@ -54,10 +54,15 @@ CfReference<Reference> asType(CfReference<CFTypeRef> object, CFTypeID typeId) {
     return CfReference<Reference>(static_cast<Reference>(object.release()));
 }
 
+inline CfReference<CFStringRef> toCFString(const QString& text) {
+    static_assert(sizeof(QChar) == sizeof(UniChar));
+    return CfReference<CFStringRef>(CFStringCreateWithCharacters(
+        kCFAllocatorDefault, reinterpret_cast<const UniChar*>(text.utf16()), text.size()));
+}
+
 inline QString toQString(CFStringRef text) {
     const CFIndex length = CFStringGetLength(text);
     QString copy(length, Qt::Uninitialized);
-    static_assert(sizeof(QChar) == sizeof(UniChar));
     CFStringGetCharacters(text, CFRangeMake(0, length), reinterpret_cast<UniChar*>(copy.data()));
     return copy;
 }

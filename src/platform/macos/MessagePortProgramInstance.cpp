@@ -1,6 +1,7 @@
 #include "platform/macos/MessagePortProgramInstance.h"
 
 #include "core/Log.h"
+#include "core/ProgramIdentity.h"
 
 #include <optional>
 #include <utility>
@@ -14,8 +15,8 @@ constexpr CFTimeInterval answerLimit = 2.5;
 /// The owner of the port may end, and others may start, while this process claims it.
 constexpr int mostAttempts = 5;
 
-CFStringRef portName() {
-    return CFSTR("com.corvane.Quillet.instance");
+CfReference<CFStringRef> portName() {
+    return toCFString(core::programIdentifier() + QStringLiteral(".instance"));
 }
 
 /// The numbers are a protocol between builds of the program.
@@ -52,7 +53,7 @@ CFDataRef receive(CFMessagePortRef, SInt32 message, CFDataRef, void* requests) {
 /// Empty when the owner of the port has gone, or nobody has it.
 std::optional<ProgramInstance::Claim> tellOwner(InstanceRequest::Kind asked) {
     const CfReference<CFMessagePortRef> owner(
-        CFMessagePortCreateRemote(kCFAllocatorDefault, portName()));
+        CFMessagePortCreateRemote(kCFAllocatorDefault, portName().get()));
     if (!owner) {
         return std::nullopt;
     }
@@ -101,8 +102,8 @@ ProgramInstance::Claim MessagePortProgramInstance::claim(InstanceRequest::Kind a
 
 bool MessagePortProgramInstance::takePort() {
     CFMessagePortContext context{0, &requests_, nullptr, nullptr, nullptr};
-    port_ = CfReference<CFMessagePortRef>(
-        CFMessagePortCreateLocal(kCFAllocatorDefault, portName(), receive, &context, nullptr));
+    port_ = CfReference<CFMessagePortRef>(CFMessagePortCreateLocal(
+        kCFAllocatorDefault, portName().get(), receive, &context, nullptr));
     if (!port_) {
         return false;
     }

@@ -42,8 +42,12 @@ inline CFRange CFRangeMake(CFIndex location, CFIndex length) {
     return {location, length};
 }
 
-// corefoundation/cfstringgettypeid(), cfstringgetlength(_:), cfstringgetcharacters(_:_:_:)
+// corefoundation/cfstringgettypeid(), cfstringcreatewithcharacters(_:_:_:), cfstringgetlength(_:),
+// cfstringgetcharacters(_:_:_:)
 CFTypeID CFStringGetTypeID();
+CFStringRef _Nullable CFStringCreateWithCharacters(CFAllocatorRef _Nullable alloc,
+                                                   const UniChar* _Nullable chars,
+                                                   CFIndex numChars);
 CFIndex CFStringGetLength(CFStringRef theString);
 void CFStringGetCharacters(CFStringRef theString, CFRange range, UniChar* buffer);
 

@@ -72,6 +72,11 @@ CFStringRef __CFStringMakeConstantString(const char* text) {
     return static_cast<CFStringRef>(string);
 }
 
+CFStringRef CFStringCreateWithCharacters(CFAllocatorRef, const UniChar* characters, CFIndex count) {
+    const std::u16string text(characters, characters + count);
+    return static_cast<CFStringRef>(keep(new StringObject(text)));
+}
+
 CFIndex CFStringGetLength(CFStringRef string) {
     const auto& object = checked<StringObject>(string, appleFake::String, "CFStringGetLength");
     return static_cast<CFIndex>(object.text.size());
