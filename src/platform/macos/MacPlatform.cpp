@@ -45,6 +45,9 @@ std::optional<KeyCode> positionOf(const QKeyEvent& event) {
 std::optional<QString> prepareProcess() {
     // Whoever reads our log lines may go away; that must not end the program.
     std::signal(SIGPIPE, SIG_IGN);
+    // The toolkit would come to the front when it starts, and take the keyboard away from whoever
+    // has it.
+    qputenv("QT_MAC_DISABLE_FOREGROUND_APPLICATION_TRANSFORM", "1");
     return std::nullopt;
 }
 

@@ -1,5 +1,6 @@
 #include "platform/macos/MacWindowServer.h"
 
+#include "platform/macos/InactiveHover.h"
 #include "platform/macos/NativeWindow.h"
 #include "platform/qt/ToolkitGeometry.h"
 
@@ -18,6 +19,8 @@ void show(QWidget& window) {
     window.show();
     if (isFloating(window)) {
         nativeWindow::makeFloating(window.winId());
+        nativeWindow::followPointer(window.winId(),
+                                    {inactiveHover::pointerMoved, inactiveHover::pointerLeft});
     }
 }
 
@@ -63,6 +66,10 @@ void MacWindowServer::orderFront(QWidget& window) {
 }
 
 void MacWindowServer::orderOut(QWidget& window) {
+    // The system does not say that the pointer left a window that vanishes under it.
+    if (window.windowHandle() != nullptr) {
+        inactiveHover::pointerLeft(window.winId());
+    }
     window.hide();
 }
 

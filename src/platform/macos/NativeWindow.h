@@ -13,6 +13,16 @@ namespace platform::nativeWindow {
 /// anew whenever it shows a window, so this is done after each time.
 void makeFloating(WId view);
 
+/// Who is told what the pointer does over a view while another application is active. The location
+/// is on the screen.
+struct PointerHandlers {
+    void (*moved)(WId view, Point location);
+    void (*left)(WId view);
+};
+
+/// Tells of the pointer for as long as there is the view. Asked again, it changes nothing.
+void followPointer(WId view, const PointerHandlers& handlers);
+
 /// Shows the window in front of the others of its level. It does not become the key window.
 void orderFront(WId view);
 
@@ -26,7 +36,7 @@ void setMaterial(WId view, const Rect& frame, const WindowMaterial& material);
 /// The number of the program's window that has the keyboard; 0 when none has it.
 std::int64_t keyWindowNumber();
 
-/// No icon among the running applications.
+/// No icon among the running applications. The process keeps its pace while it has no window.
 void becomeAccessory();
 
 } // namespace platform::nativeWindow

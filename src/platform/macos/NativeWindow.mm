@@ -1,9 +1,34 @@
 #include "platform/macos/NativeWindow.h"
 
+#include "platform/macos/CocoaValues.hh"
 #include "platform/macos/Strong.hh"
 
 #include <AppKit/AppKit.h>
 #include <QuartzCore/CALayer.h>
+
+/// Hears of the pointer over one view.
+@interface QuilletPointerFollower : NSObject {
+@public
+    WId view;
+    platform::nativeWindow::PointerHandlers handlers;
+}
+@end
+
+@implementation QuilletPointerFollower
+- (void)mouseEntered:(NSEvent*)event {
+    [self mouseMoved:event];
+}
+- (void)mouseMoved:(NSEvent*)event {
+    if (![NSApplication sharedApplication].active) {
+        handlers.moved(view, platform::toPoint([NSEvent mouseLocation]));
+    }
+}
+- (void)mouseExited:(NSEvent*)event {
+    if (![NSApplication sharedApplication].active) {
+        handlers.left(view);
+    }
+}
+@end
 
 namespace platform::nativeWindow {
 
@@ -33,6 +58,15 @@ Strong<NSVisualEffectView*> effectBehind(NSView* content) {
     return effect;
 }
 
+bool isFollowed(NSView* view) {
+    for (NSTrackingArea* area in view.trackingAreas) {
+        if ([area.owner isKindOfClass:[QuilletPointerFollower class]]) {
+            return true;
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 void makeFloating(WId view) {
@@ -47,6 +81,27 @@ void makeFloating(WId view) {
         NSWindowCollectionBehaviorCanJoinAllSpaces | NSWindowCollectionBehaviorStationary;
     // Of a window without a frame the shadow follows what is drawn, and that has just changed.
     [window invalidateShadow];
+}
+
+void followPointer(WId view, const PointerHandlers& handlers) {
+    @autoreleasepool {
+        NSView* const followed = viewOf(view);
+        if (isFollowed(followed)) {
+            return;
+        }
+        const auto follower =
+            Strong<QuilletPointerFollower*>::adopt([[QuilletPointerFollower alloc] init]);
+        follower.get()->view = view;
+        follower.get()->handlers = handlers;
+        // The area does not own its owner, but what is noted beside it.
+        const auto area = Strong<NSTrackingArea*>::adopt([[NSTrackingArea alloc]
+            initWithRect:NSZeroRect
+                 options:NSTrackingMouseEnteredAndExited | NSTrackingMouseMoved |
+                         NSTrackingActiveAlways | NSTrackingInVisibleRect
+                   owner:follower.get()
+                userInfo:[NSDictionary dictionaryWithObject:follower.get() forKey:@"owner"]]);
+        [followed addTrackingArea:area.get()];
+    }
 }
 
 void orderFront(WId view) {
@@ -77,6 +132,10 @@ std::int64_t keyWindowNumber() {
 
 void becomeAccessory() {
     [[NSApplication sharedApplication] setActivationPolicy:NSApplicationActivationPolicyAccessory];
+    // The system slows down the timers of a process that shows no window.
+    static const Strong<id> awake([[NSProcessInfo processInfo]
+        beginActivityWithOptions:NSActivityUserInitiatedAllowingIdleSystemSleep
+                          reason:@"Looking for selected text"]);
 }
 
 } // namespace platform::nativeWindow

@@ -3,6 +3,8 @@
 #include "macos/NativeWindowRecord.h"
 #include "platform/macos/NativeWindow.h"
 
+#include <QProxyStyle>
+#include <QTest>
 #include <QWidget>
 #include <gtest/gtest.h>
 
@@ -17,6 +19,11 @@ void note(const std::string& what, WId view) {
         what + (window != nullptr && window->isVisible() ? "" : " early"));
 }
 
+platform::nativeWindow::PointerHandlers& pointer() {
+    static platform::nativeWindow::PointerHandlers handlers{};
+    return handlers;
+}
+
 } // namespace
 
 NativeWindowRecord& nativeWindowRecord() {
@@ -28,6 +35,9 @@ namespace platform::nativeWindow {
 
 void makeFloating(WId view) {
     note("floating", view);
+}
+void followPointer(WId, const PointerHandlers& handlers) {
+    pointer() = handlers;
 }
 void orderFront(WId view) {
     note("front", view);
@@ -78,6 +88,50 @@ TEST_F(MacWindowServerTest, TheBarIsMadeFloatingAnewEachTimeItIsShownAndNeverTak
     EXPECT_TRUE(flags & Qt::WindowDoesNotAcceptFocus);
     EXPECT_TRUE(window.testAttribute(Qt::WA_ShowWithoutActivating));
     EXPECT_TRUE(window.testAttribute(Qt::WA_TranslucentBackground));
+}
+
+TEST_F(MacWindowServerTest,
+       WhileAnotherApplicationIsActiveTheBarsButtonsAreHoveredAndAskedForTheirToolTips) {
+    /// Tool tips at once.
+    struct Style final : QProxyStyle {
+        int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                      QStyleHintReturn* data) const override {
+            return hint == SH_ToolTip_WakeUpDelay
+                       ? 0
+                       : QProxyStyle::styleHint(hint, option, widget, data);
+        }
+    } style;
+    struct Button final : QWidget {
+        using QWidget::QWidget;
+        bool event(QEvent* event) override {
+            asked = asked || event->type() == QEvent::ToolTip;
+            return QWidget::event(event);
+        }
+        bool asked = false;
+    };
+    windowServer.makeFloating(window, KeyboardFocus::Never);
+    windowServer.setFrame(window, {100, 200, 590, 44});
+    Button bold(&window);
+    bold.setGeometry(10, 10, 30, 26);
+    bold.setStyle(&style);
+    Button italic(&window);
+    italic.setGeometry(40, 10, 30, 26);
+    windowServer.orderFront(window);
+
+    pointer().moved(window.winId(), {150, 220});
+    EXPECT_TRUE(italic.underMouse());
+    pointer().moved(window.winId(), {120, 220});
+    EXPECT_TRUE(bold.underMouse());
+    EXPECT_FALSE(italic.underMouse());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return bold.asked; }));
+
+    pointer().left(window.winId());
+    EXPECT_FALSE(bold.underMouse());
+    pointer().moved(window.winId(), {120, 220});
+    EXPECT_TRUE(bold.underMouse()) << "again";
+
+    windowServer.orderOut(window);
+    EXPECT_FALSE(bold.underMouse()) << "the bar went from under the pointer";
 }
 
 TEST_F(MacWindowServerTest, AFloatingWindowThatMayHaveTheKeyboardGetsIt) {

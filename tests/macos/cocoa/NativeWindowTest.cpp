@@ -1,6 +1,7 @@
 #include "platform/macos/NativeWindow.h"
 
 #include "macos/cocoa/AppKitTest.h"
+#include "macos/fakes/cocoa/ServicesFake.h"
 
 namespace nativeWindow = platform::nativeWindow;
 
@@ -35,6 +36,9 @@ TEST_F(NativeWindowTest, ComesToTheFrontWithTheKeyboardOnlyWhenItIsToHaveIt) {
 
     nativeWindow::becomeAccessory();
     EXPECT_EQ(appKit.activationPolicy, 1);
+    ASSERT_EQ(cocoaFake::services().activities.size(), 1U);
+    EXPECT_EQ(cocoaFake::services().activities.front().first, 0x00EFFFFFULL)
+        << "no napping, but the computer may sleep";
 }
 
 TEST_F(NativeWindowTest, OneEffectLiesBehindTheContentHoweverOftenItIsAskedFor) {
@@ -43,6 +47,29 @@ TEST_F(NativeWindowTest, OneEffectLiesBehindTheContentHoweverOftenItIsAskedFor) 
     constexpr long active = 1;
     EXPECT_EQ(cocoaFake::effectsOf(view),
               (std::vector<cocoaFake::Effect>{{0, 13, 0, active, 10, true, {10, 3, 640, 38}}}));
+}
+
+TEST_F(NativeWindowTest, ThePointerIsFollowedWhileAnotherApplicationIsActive) {
+    static std::vector<std::string> told;
+    told.clear();
+    const nativeWindow::PointerHandlers handlers{
+        [](WId, platform::Point location) { told.push_back(std::to_string(int(location.x))); },
+        [](WId) { told.emplace_back("left"); }};
+    nativeWindow::followPointer(view, handlers);
+    endTurn();
+    nativeWindow::followPointer(view, handlers);
+    constexpr unsigned long enteredExitedMovedAlwaysInVisibleRect = 0x283;
+    EXPECT_EQ(cocoaFake::followed(view), std::vector{enteredExitedMovedAlwaysInVisibleRect});
+
+    appKit.mouseLocation = {5, 6};
+    cocoaFake::pointerOver(view, cocoaFake::PointerEvent::Entered);
+    appKit.mouseLocation = {7, 6};
+    cocoaFake::pointerOver(view, cocoaFake::PointerEvent::Moved);
+    cocoaFake::pointerOver(view, cocoaFake::PointerEvent::Exited);
+    appKit.isActive = true;
+    cocoaFake::pointerOver(view, cocoaFake::PointerEvent::Entered);
+    cocoaFake::pointerOver(view, cocoaFake::PointerEvent::Exited);
+    EXPECT_EQ(told, (std::vector<std::string>{"5", "7", "left"})) << "the toolkit tells its own";
 }
 
 } // namespace

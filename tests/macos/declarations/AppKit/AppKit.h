@@ -54,6 +54,7 @@ using NSApplicationActivationOptions = NSUInteger;
 @interface NSApplication : NSResponder
 @property(class, readonly, strong) __kindof NSApplication* sharedApplication;
 @property(nullable, readonly, weak) NSWindow* keyWindow;
+@property(getter=isActive, readonly) BOOL active;
 - (BOOL)setActivationPolicy:(NSApplicationActivationPolicy)activationPolicy;
 - (void)activateIgnoringOtherApps:(BOOL)flag;
 @end
@@ -109,6 +110,22 @@ enum NSWindowOrderingMode : NSInteger {
     NSWindowOut = 0,
 };
 
+// appkit/nstrackingarea, options-swift.struct
+using NSTrackingAreaOptions = NSUInteger;
+enum : NSTrackingAreaOptions {
+    NSTrackingMouseEnteredAndExited = 0x01,
+    NSTrackingMouseMoved = 0x02,
+    NSTrackingActiveAlways = 0x80,
+    NSTrackingInVisibleRect = 0x200,
+};
+@interface NSTrackingArea : NSObject
+- (instancetype)initWithRect:(NSRect)rect
+                     options:(NSTrackingAreaOptions)options
+                       owner:(nullable id)owner
+                    userInfo:(nullable NSDictionary*)userInfo;
+@property(readonly, weak, nullable) id owner;
+@end
+
 // appkit/nsview
 @interface NSView : NSResponder
 - (instancetype)initWithFrame:(NSRect)frameRect;
@@ -118,6 +135,8 @@ enum NSWindowOrderingMode : NSInteger {
 @property(copy) NSArray<__kindof NSView*>* subviews;
 @property BOOL wantsLayer;
 @property(nullable, strong) CALayer* layer;
+@property(readonly, copy) NSArray<NSTrackingArea*>* trackingAreas;
+- (void)addTrackingArea:(NSTrackingArea*)trackingArea;
 - (void)addSubview:(NSView*)view
         positioned:(NSWindowOrderingMode)place
         relativeTo:(nullable NSView*)otherView;

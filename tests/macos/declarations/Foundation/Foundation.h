@@ -128,6 +128,7 @@ enum NSComparisonResult : NSInteger {
 // foundation/nsdictionary
 @interface NSDictionary<__covariant KeyType, __covariant ObjectType>
     : NSObject <NSCopying, NSFastEnumeration>
++ (instancetype)dictionaryWithObject:(ObjectType)object forKey:(KeyType)key;
 - (nullable ObjectType)objectForKey:(KeyType)aKey;
 @end
 
@@ -172,9 +173,18 @@ struct NSOperatingSystemVersion {
     NSInteger minorVersion;
     NSInteger patchVersion;
 };
+// foundation/processinfo/activityoptions
+using NSActivityOptions = std::uint64_t;
+enum : NSActivityOptions {
+    NSActivityIdleSystemSleepDisabled = 1ULL << 20,
+    NSActivityUserInitiated = 0x00FFFFFFULL | NSActivityIdleSystemSleepDisabled,
+    NSActivityUserInitiatedAllowingIdleSystemSleep =
+        NSActivityUserInitiated & ~NSActivityIdleSystemSleepDisabled,
+};
 @interface NSProcessInfo : NSObject
 @property(class, readonly, strong) NSProcessInfo* processInfo;
 @property(readonly) NSOperatingSystemVersion operatingSystemVersion;
+- (id<NSObject>)beginActivityWithOptions:(NSActivityOptions)options reason:(NSString*)reason;
 @end
 
 QUILLET_ASSUME_NONNULL_END

@@ -69,6 +69,7 @@ struct AppKit {
     std::optional<long> keyWindowNumber;
     bool refusesMonitors = false;
     std::optional<long> activationPolicy;
+    bool isActive = false;
     /// Whether each request to come forward insisted.
     std::vector<bool> forward;
 
@@ -97,6 +98,12 @@ void closeWindow(WId view);
 const Window& windowOf(WId view);
 /// The blurring views of the window.
 std::vector<Effect> effectsOf(WId view);
+
+/// The options of the areas in which the pointer is followed over the view.
+std::vector<unsigned long> followed(WId view);
+/// What the system tells the owners of these areas.
+enum class PointerEvent { Entered, Moved, Exited };
+void pointerOver(WId view, PointerEvent event);
 
 /// The fakes' objects that are still alive, those of openWindow() included.
 int liveObjects();

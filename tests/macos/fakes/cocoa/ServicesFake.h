@@ -8,6 +8,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// The system's services, alerts, pictures and the updater's framework, as tests see them.
@@ -43,6 +44,8 @@ struct Services {
     /// The bundle's frameworks folder, and whether code in it can be loaded.
     std::optional<QString> frameworks;
     bool frameworkLoads = true;
+    /// Options and reason of each activity that was begun.
+    std::vector<std::pair<unsigned long long, QString>> activities;
     std::vector<std::string> updater;
 };
 

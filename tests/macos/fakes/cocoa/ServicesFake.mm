@@ -103,9 +103,13 @@ RECORDS(setAlertStyle, NSAlertStyle, ShownAlert, style)
 }
 @end
 
-@implementation NSProcessInfo (OperatingSystemVersion)
+@implementation NSProcessInfo (LaterThanHere)
 - (NSOperatingSystemVersion)operatingSystemVersion {
     return {14, 6, 1};
+}
+- (id)beginActivityWithOptions:(NSActivityOptions)options reason:(NSString*)reason {
+    services().activities.emplace_back(options, platform::toQString(reason));
+    return [[[NSObject alloc] init] autorelease];
 }
 @end
 

@@ -16,7 +16,14 @@ struct View {
     NSWindow* window = nil;
     NSView* superview = nil;
     NSMutableArray* subviews = nil;
+    NSMutableArray* areas = nil;
     CALayer* layer = nil;
+};
+
+struct Area {
+    NSTrackingAreaOptions options = 0;
+    id owner = nil;
+    NSDictionary* userInfo = nil;
 };
 
 NSView* viewOf(WId view) {
@@ -43,16 +50,43 @@ ANSWERS(BOOL, masksToBounds, Effect, masksToBounds)
 @implementation NSResponder
 @end
 
+@implementation NSTrackingArea
+- (id)initWithRect:(NSRect)rect
+           options:(NSTrackingAreaOptions)options
+             owner:(id)owner
+          userInfo:(NSDictionary*)userInfo {
+    self = [super init];
+    cocoaFake::born();
+    stateOf<Area>(self) = {options, owner, [userInfo retain]};
+    return self;
+}
+- (void)dealloc {
+    [stateOf<Area>(self).userInfo release];
+    cocoaFake::states<Area>().erase(self);
+    cocoaFake::died();
+    [super dealloc];
+}
+ANSWERS(id, owner, Area, owner)
+@end
+
+@interface NSObject (HearsOfThePointer)
+- (void)mouseEntered:(NSEvent*)event;
+- (void)mouseMoved:(NSEvent*)event;
+- (void)mouseExited:(NSEvent*)event;
+@end
+
 @implementation NSView
 - (id)initWithFrame:(NSRect)frame {
     self = [super init];
     cocoaFake::born();
     stateOf<View>(self).frame = frame;
     stateOf<View>(self).subviews = [[NSMutableArray alloc] init];
+    stateOf<View>(self).areas = [[NSMutableArray alloc] init];
     return self;
 }
 - (void)dealloc {
     [stateOf<View>(self).subviews release];
+    [stateOf<View>(self).areas release];
     [stateOf<View>(self).layer release];
     cocoaFake::states<View>().erase(self);
     cocoaFake::died();
@@ -63,6 +97,10 @@ RECORDS(setFrame, NSRect, View, frame)
 ANSWERS(NSWindow*, window, View, window)
 ANSWERS(NSView*, superview, View, superview)
 ANSWERS(NSArray*, subviews, View, subviews)
+ANSWERS(NSArray*, trackingAreas, View, areas)
+- (void)addTrackingArea:(NSTrackingArea*)area {
+    [stateOf<View>(self).areas addObject:area];
+}
 - (void)setWantsLayer:(BOOL)wants {
     if (wants && stateOf<View>(self).layer == nil) {
         stateOf<View>(self).layer = [[CALayer alloc] init];
@@ -169,6 +207,9 @@ RECORDS(setOpaque, BOOL, Window, opaque)
     static NSWindow* const key = [[NSWindow alloc] init];
     return appKit().keyWindowNumber ? key : nil;
 }
+- (BOOL)isActive {
+    return appKit().isActive;
+}
 - (BOOL)setActivationPolicy:(NSApplicationActivationPolicy)policy {
     appKit().activationPolicy = policy;
     return YES;
@@ -229,6 +270,30 @@ void closeWindow(WId view) {
 
 const Window& windowOf(WId view) {
     return stateOf<Window>(viewOf(view).window);
+}
+
+std::vector<unsigned long> followed(WId view) {
+    std::vector<unsigned long> result;
+    for (NSTrackingArea* area in viewOf(view).trackingAreas) {
+        result.push_back(stateOf<Area>(area).options);
+    }
+    return result;
+}
+
+void pointerOver(WId view, PointerEvent event) {
+    for (NSTrackingArea* area in viewOf(view).trackingAreas) {
+        switch (event) {
+        case PointerEvent::Entered:
+            [area.owner mouseEntered:nil];
+            break;
+        case PointerEvent::Moved:
+            [area.owner mouseMoved:nil];
+            break;
+        case PointerEvent::Exited:
+            [area.owner mouseExited:nil];
+            break;
+        }
+    }
 }
 
 std::vector<Effect> effectsOf(WId view) {

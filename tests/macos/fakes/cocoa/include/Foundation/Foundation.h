@@ -9,6 +9,6 @@ typedef struct {
     NSInteger patchVersion;
 } NSOperatingSystemVersion;
 
-@interface NSProcessInfo (OperatingSystemVersion)
+@interface NSProcessInfo (LaterThanHere)
 @property(readonly) NSOperatingSystemVersion operatingSystemVersion;
 @end
