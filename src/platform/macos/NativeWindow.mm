@@ -30,6 +30,13 @@
 }
 @end
 
+/// Cuts the blurred picture to the window's round corners.
+@interface QuilletMaterialClip : NSView
+@end
+
+@implementation QuilletMaterialClip
+@end
+
 namespace platform::nativeWindow {
 
 namespace {
@@ -44,18 +51,23 @@ NSView* viewOf(WId view) {
     return (__bridge NSView*)reinterpret_cast<void*>(view);
 }
 
-/// The view that blurs behind `content`: the one made before, or a new one.
-Strong<NSVisualEffectView*> effectBehind(NSView* content) {
-    NSView* frame = content.superview;
-    for (NSView* view in frame.subviews) {
-        if ([view isKindOfClass:[NSVisualEffectView class]]) {
-            return Strong<NSVisualEffectView*>(static_cast<NSVisualEffectView*>(view));
+/// The subview of that class: the one made before, or a new one below `sibling`.
+template <typename View>
+Strong<View*> subviewOf(NSView* parent, NSView* sibling) {
+    for (NSView* view in parent.subviews) {
+        if ([view isKindOfClass:[View class]]) {
+            return Strong<View*>(static_cast<View*>(view));
         }
     }
-    auto effect = Strong<NSVisualEffectView*>::adopt(
-        [[NSVisualEffectView alloc] initWithFrame:content.frame]);
-    [frame addSubview:effect.get() positioned:NSWindowBelow relativeTo:content];
-    return effect;
+    auto made = Strong<View*>::adopt([[View alloc] initWithFrame:NSZeroRect]);
+    [parent addSubview:made.get() positioned:NSWindowBelow relativeTo:sibling];
+    return made;
+}
+
+void roundCorners(NSView* view, double radius) {
+    view.wantsLayer = YES;
+    view.layer.cornerRadius = radius;
+    view.layer.masksToBounds = YES;
 }
 
 bool isFollowed(NSView* view) {
@@ -115,14 +127,16 @@ void bringToFront(WId view) {
 }
 
 void setMaterial(WId view, const Rect& frame, const WindowMaterial& material) {
-    const auto effect = effectBehind(viewOf(view));
+    NSView* const content = viewOf(view);
+    const auto clip = subviewOf<QuilletMaterialClip>(content.superview, content);
+    clip.get().frame = content.frame;
+    roundCorners(clip.get(), material.cornerRadius);
+    const auto effect = subviewOf<NSVisualEffectView>(clip.get(), nil);
     effect.get().frame = NSMakeRect(frame.x, frame.y, frame.width, frame.height);
     effect.get().material = static_cast<NSVisualEffectMaterial>(material.material);
     effect.get().blendingMode = static_cast<NSVisualEffectBlendingMode>(material.blendingMode);
     effect.get().state = NSVisualEffectStateActive;
-    effect.get().wantsLayer = YES;
-    effect.get().layer.cornerRadius = material.cornerRadius;
-    effect.get().layer.masksToBounds = YES;
+    roundCorners(effect.get(), material.cornerRadius);
 }
 
 std::int64_t keyWindowNumber() {

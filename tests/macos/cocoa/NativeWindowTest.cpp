@@ -41,12 +41,13 @@ TEST_F(NativeWindowTest, ComesToTheFrontWithTheKeyboardOnlyWhenItIsToHaveIt) {
         << "no napping, but the computer may sleep";
 }
 
-TEST_F(NativeWindowTest, OneEffectLiesBehindTheContentHoweverOftenItIsAskedFor) {
+TEST_F(NativeWindowTest, OneEffectLiesBehindTheContentCutToItsCornersHoweverOftenItIsAskedFor) {
     nativeWindow::setMaterial(view, {0, 0, 590, 44}, {0, 1, 4});
-    nativeWindow::setMaterial(view, {10, 3, 640, 38}, {13, 0, 10});
+    nativeWindow::setMaterial(view, {-25, 3, 640, 38}, {13, 0, 10});
     constexpr long active = 1;
     EXPECT_EQ(cocoaFake::effectsOf(view),
-              (std::vector<cocoaFake::Effect>{{0, 13, 0, active, 10, true, {10, 3, 640, 38}}}));
+              (std::vector<cocoaFake::Effect>{
+                  {0, 13, 0, active, 10, true, {-25, 3, 640, 38}, {0, 0, 590, 44}, 10}}));
 }
 
 TEST_F(NativeWindowTest, ThePointerIsFollowedWhileAnotherApplicationIsActive) {

@@ -50,6 +50,9 @@ struct Effect {
     double cornerRadius = 0;
     bool masksToBounds = false;
     platform::Rect frame;
+    /// What it is cut to.
+    platform::Rect clip;
+    double clipRadius = 0;
 
     bool operator==(const Effect&) const = default;
 };

@@ -301,13 +301,17 @@ std::vector<Effect> effectsOf(WId view) {
     NSArray* const siblings = viewOf(view).superview.subviews;
     for (NSUInteger index = 0; index < [siblings count]; ++index) {
         NSView* const sibling = [siblings objectAtIndex:index];
-        if ([sibling isKindOfClass:[NSVisualEffectView class]]) {
-            Effect effect = stateOf<Effect>(sibling);
-            effect.positionFromBack = index;
-            effect.cornerRadius = sibling.layer.cornerRadius;
-            effect.masksToBounds = sibling.layer.masksToBounds;
-            effect.frame = platform::toRect(sibling.frame);
-            result.push_back(effect);
+        for (NSView* inside in sibling.subviews) {
+            if ([inside isKindOfClass:[NSVisualEffectView class]]) {
+                Effect effect = stateOf<Effect>(inside);
+                effect.positionFromBack = index;
+                effect.cornerRadius = inside.layer.cornerRadius;
+                effect.masksToBounds = inside.layer.masksToBounds && sibling.layer.masksToBounds;
+                effect.frame = platform::toRect(inside.frame);
+                effect.clip = platform::toRect(sibling.frame);
+                effect.clipRadius = sibling.layer.cornerRadius;
+                result.push_back(effect);
+            }
         }
     }
     return result;
