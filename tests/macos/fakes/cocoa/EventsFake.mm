@@ -28,6 +28,11 @@ id install(Monitor monitor) {
     if (appKit().refusesMonitors) {
         return nil;
     }
+    if (monitor.global != nullptr) {
+        monitor.global = Block_copy(monitor.global);
+    } else {
+        monitor.local = Block_copy(monitor.local);
+    }
     // Like the real one: the caller keeps the token alive.
     monitor.token = [[[NSObject alloc] init] autorelease];
     monitors().push_back(monitor);
@@ -70,10 +75,10 @@ ANSWERS(BOOL, isARepeat, KeyDown, repeated)
     return NSMakePoint(appKit().mouseLocation.x, appKit().mouseLocation.y);
 }
 + (id)addGlobalMonitorForEventsMatchingMask:(NSEventMask)mask handler:(void (^)(NSEvent*))block {
-    return install({nil, mask, Block_copy(block), nullptr});
+    return install({nil, mask, block, nullptr});
 }
 + (id)addLocalMonitorForEventsMatchingMask:(NSEventMask)mask handler:(NSEvent* (^)(NSEvent*))block {
-    return install({nil, mask, nullptr, Block_copy(block)});
+    return install({nil, mask, nullptr, block});
 }
 + (void)removeMonitor:(id)token {
     const auto found = std::find_if(monitors().begin(), monitors().end(),
