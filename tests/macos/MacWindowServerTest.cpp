@@ -1,6 +1,5 @@
 #include "platform/macos/MacWindowServer.h"
 
-#include "macos/NativeWindowRecord.h"
 #include "platform/macos/NativeWindow.h"
 
 #include <QProxyStyle>
@@ -13,10 +12,14 @@ using platform::Rect;
 
 namespace {
 
+/// What was asked of the toolkit's windows, which here are not AppKit's; "early" is a window that was
+/// not visible yet.
+std::vector<std::string> native;
+Rect materialFrame;
+
 void note(const std::string& what, WId view) {
     const QWidget* const window = QWidget::find(view);
-    nativeWindowRecord().calls.push_back(
-        what + (window != nullptr && window->isVisible() ? "" : " early"));
+    native.push_back(what + (window != nullptr && window->isVisible() ? "" : " early"));
 }
 
 platform::nativeWindow::PointerHandlers& pointer() {
@@ -25,11 +28,6 @@ platform::nativeWindow::PointerHandlers& pointer() {
 }
 
 } // namespace
-
-NativeWindowRecord& nativeWindowRecord() {
-    static NativeWindowRecord record;
-    return record;
-}
 
 namespace platform::nativeWindow {
 
@@ -47,13 +45,13 @@ void bringToFront(WId view) {
 }
 void setMaterial(WId view, const Rect& frame, const WindowMaterial& material) {
     note("material " + std::to_string(material.material), view);
-    nativeWindowRecord().materialFrame = frame;
+    materialFrame = frame;
 }
 std::int64_t keyWindowNumber() {
     return 0;
 }
 void becomeAccessory() {
-    nativeWindowRecord().calls.emplace_back("accessory");
+    native.emplace_back("accessory");
 }
 
 } // namespace platform::nativeWindow
@@ -62,9 +60,8 @@ namespace {
 
 class MacWindowServerTest : public testing::Test {
 protected:
-    MacWindowServerTest() { nativeWindowRecord() = {}; }
+    MacWindowServerTest() { native.clear(); }
 
-    const std::vector<std::string>& native = nativeWindowRecord().calls;
     platform::MacWindowServer windowServer;
     QWidget window;
 };
@@ -81,7 +78,7 @@ TEST_F(MacWindowServerTest, TheBarIsMadeFloatingAnewEachTimeItIsShownAndNeverTak
     windowServer.orderFront(window);
     EXPECT_EQ(native,
               (std::vector<std::string>{"floating", "front", "material 13", "floating", "front"}));
-    EXPECT_EQ(nativeWindowRecord().materialFrame, (Rect{10, 4, 570, 38}));
+    EXPECT_EQ(materialFrame, (Rect{10, 4, 570, 38}));
     EXPECT_EQ(windowServer.frame(window), (Rect{100, 200, 590, 44}));
     const Qt::WindowFlags flags = window.windowFlags();
     EXPECT_EQ(flags & Qt::WindowType_Mask, Qt::Window);
