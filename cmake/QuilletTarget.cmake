@@ -11,7 +11,9 @@ target_compile_definitions(quillet_options INTERFACE
     QT_NO_CAST_FROM_ASCII
     QT_NO_CAST_TO_ASCII
     QT_NO_KEYWORDS
-    QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+    # What is gone by the oldest Qt is not there, and what newer ones deprecate is still right.
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400
+    QT_WARN_DEPRECATED_UP_TO=0x060400)
 target_compile_options(quillet_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast
     -Wnon-virtual-dtor -Woverloaded-virtual)

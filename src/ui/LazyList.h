@@ -12,6 +12,8 @@ namespace ui {
 /// Rows of one height, of which only those exist that can be seen. It takes the keyboard as a
 /// whole: arrows, Page and Home and End move its current row, Space and Return activate that.
 class LazyList final : public QAbstractScrollArea {
+    Q_OBJECT
+
 public:
     struct Rows {
         int count = 0;

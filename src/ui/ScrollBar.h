@@ -6,6 +6,8 @@ namespace ui {
 
 /// A thin vertical indicator of what part of a page is visible; it can be dragged.
 class ScrollBar final : public QScrollBar {
+    Q_OBJECT
+
 public:
     enum class Width { Normal, Narrow };
 

@@ -7,15 +7,22 @@
 
 namespace platform {
 
+/// Where a window is, in device pixels. `surface` is all that the application draws into, without
+/// what the window manager draws around it; `visible` leaves out a shadow that the application
+/// draws there itself.
+struct WindowPlace {
+    PixelRect surface;
+    PixelRect visible;
+};
+
 /// Where applications' windows really are, whatever the applications themselves say. Window
 /// systems implement it; accessibility asks it.
 class ApplicationWindows {
 public:
     virtual ~ApplicationWindows() = default;
 
-    /// The client area, without what the window manager draws around it, of the process's active
-    /// window in device pixels.
-    virtual std::optional<PixelRect> activeWindowClientArea(ProcessIdentifier process) = 0;
+    /// The process's active window.
+    virtual std::optional<WindowPlace> placeOfActiveWindow(ProcessIdentifier process) = 0;
 
     /// The screens of the moment.
     virtual PixelGeometry pixelGeometry() = 0;

@@ -1,7 +1,5 @@
 #include "platform/linux/atspi/ApplicationCoordinates.h"
 
-#include "platform/linux/atspi/WireTypes.h"
-
 #include <cmath>
 
 namespace platform {
@@ -12,7 +10,7 @@ namespace {
 /// this is a whole number and no measurement.
 int pixelsPerUnit(const Extents& window, const PixelRect& clientArea) {
     constexpr int most = 8;
-    if (!window.isPlausible() || window.width == 0 || window.height == 0) {
+    if (window.width <= 0 || window.height <= 0) {
         return 1;
     }
     const long across = std::lround(double(clientArea.width) / window.width);
@@ -29,22 +27,49 @@ PixelPoint originError(const Extents& pane, const PixelRect& clientArea) {
 
 } // namespace
 
-PixelRect ApplicationCoordinates::toPixels(const PixelRect& said, const ObjectReference& object,
-                                           const PixelRect& clientArea, Inquiry& inquiry) {
+PixelRect ApplicationCoordinates::toPixels(const PixelRect& said, Coordinates relativeTo,
+                                           const ObjectReference& object, const WindowPlace& window,
+                                           Inquiry& inquiry) {
     if (object != object_) {
         lookAround(object, inquiry);
     }
+    switch (relativeTo) {
+    case Coordinates::Screen:
+        return fromScreen(said, window.surface, inquiry);
+    case Coordinates::Window:
+        return fromWindow(said, window.visible, inquiry);
+    }
+    return said;
+}
+
+PixelRect ApplicationCoordinates::fromScreen(const PixelRect& said, const PixelRect& clientArea,
+                                             Inquiry& inquiry) const {
     if (rootPane_) {
-        const auto pane = inquiry.ask<Extents>(requests::extents(*rootPane_));
+        const auto pane = inquiry.ask<Extents>(requests::extents(*rootPane_, Coordinates::Screen));
         const auto error = pane ? originError(*pane, clientArea) : PixelPoint();
         return {said.x + error.x, said.y + error.y, said.width, said.height};
     }
-    if (window_ && !window_->isNull()) {
-        const auto window = inquiry.ask<Extents>(requests::extents(*window_));
-        const int unit = window ? pixelsPerUnit(*window, clientArea) : 1;
-        return {said.x * unit, said.y * unit, said.width * unit, said.height * unit};
+    const auto window = windowExtents(Coordinates::Screen, inquiry);
+    const int unit = window ? pixelsPerUnit(*window, clientArea) : 1;
+    return {said.x * unit, said.y * unit, said.width * unit, said.height * unit};
+}
+
+PixelRect ApplicationCoordinates::fromWindow(const PixelRect& said, const PixelRect& visible,
+                                             Inquiry& inquiry) const {
+    const auto window = windowExtents(Coordinates::Window, inquiry).value_or(Extents());
+    const int unit = pixelsPerUnit(window, visible);
+    return {visible.x + (said.x - 2 * window.x) * unit, visible.y + (said.y - 2 * window.y) * unit,
+            said.width * unit, said.height * unit};
+}
+
+/// Nothing when it is not known or means nothing.
+std::optional<Extents> ApplicationCoordinates::windowExtents(Coordinates relativeTo,
+                                                             Inquiry& inquiry) const {
+    if (!window_ || window_->isNull()) {
+        return std::nullopt;
     }
-    return said;
+    const auto window = inquiry.ask<Extents>(requests::extents(*window_, relativeTo));
+    return window && window->isPlausible() ? window : std::nullopt;
 }
 
 void ApplicationCoordinates::lookAround(const ObjectReference& object, Inquiry& inquiry) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Accessibility.h"
+#include "platform/SlownessGuard.h"
 #include "platform/linux/ApplicationWindows.h"
 #include "platform/linux/atspi/AccessibilityBus.h"
 #include "platform/linux/atspi/ApplicationCoordinates.h"
@@ -8,7 +9,6 @@
 #include "platform/linux/atspi/EventListener.h"
 #include "platform/linux/atspi/FocusFinder.h"
 #include "platform/linux/atspi/SelectionReader.h"
-#include "platform/SlownessGuard.h"
 #include "platform/linux/atspi/TrustQuestion.h"
 
 #include <QHash>

@@ -40,6 +40,43 @@ std::vector<TextSpan> piecesOf(const std::vector<TextSpan>& spans) {
     return some;
 }
 
+std::vector<Request> rangesOnScreen(const std::vector<TextSpan>& pieces) {
+    std::vector<Request> questions;
+    questions.reserve(pieces.size());
+    for (const auto& piece : pieces) {
+        questions.push_back(
+            requests::rangeExtents(piece.object, piece.start, piece.end, Coordinates::Screen));
+    }
+    return questions;
+}
+
+/// GTK 4 is right about the height of a range, and about its width where it begins and ends only:
+/// characters tell the rest.
+std::vector<Request> rangesInWindow(const std::vector<TextSpan>& pieces) {
+    constexpr int charactersOfAll = 32;
+    const int steps = std::max(1, charactersOfAll / static_cast<int>(pieces.size()) - 1);
+    std::vector<Request> questions;
+    for (const auto& piece : pieces) {
+        questions.push_back(
+            requests::rangeExtents(piece.object, piece.start, piece.end, Coordinates::Window));
+        const int last = piece.end - 1 - piece.start;
+        int asked = -1;
+        for (int step = 0; step <= steps; ++step) {
+            const int offset = last * step / steps;
+            if (offset > asked) {
+                questions.push_back(requests::characterExtents(piece.object, piece.start + offset,
+                                                               Coordinates::Window));
+                asked = offset;
+            }
+        }
+    }
+    return questions;
+}
+
+bool isAnswer(const QDBusMessage& reply) {
+    return reply.type() == QDBusMessage::ReplyMessage;
+}
+
 /// Text that is nowhere is answered with 0, 0, 0, 0 or -1, -1, 0, 0.
 bool isSomewhere(const Extents& extents) {
     return extents.isPlausible() && extents.height > 0;
@@ -68,16 +105,22 @@ std::optional<PixelRect> common(const PixelRect& a, const PixelRect& b) {
 
 std::optional<PixelRect> BoundsReader::read(const std::vector<TextSpan>& spans,
                                             ProcessIdentifier process) {
-    const auto said = unitedExtents(piecesOf(spans));
-    if (!said) {
-        return std::nullopt;
+    const auto pieces = piecesOf(spans);
+    auto relativeTo = Coordinates::Screen;
+    auto replies = inquiry_.askAll(rangesOnScreen(pieces));
+    if (std::none_of(replies.begin(), replies.end(), isAnswer)) {
+        relativeTo = Coordinates::Window;
+        replies = inquiry_.askAll(rangesInWindow(pieces));
     }
-    const auto clientArea = windows_.activeWindowClientArea(process);
-    if (!clientArea) {
-        return onScreens(*said);
+    const auto said = unitedExtents(replies);
+    const auto window = said ? windows_.placeOfActiveWindow(process) : std::nullopt;
+    if (!window) {
+        // Where a window is that nobody knows, only the screen's own coordinates tell.
+        return said && relativeTo == Coordinates::Screen ? onScreens(*said) : std::nullopt;
     }
-    const auto inWindow = common(
-        coordinates_.toPixels(*said, spans.front().object, *clientArea, inquiry_), *clientArea);
+    const auto inWindow =
+        common(coordinates_.toPixels(*said, relativeTo, spans.front().object, *window, inquiry_),
+               window->surface);
     return inWindow ? onScreens(*inWindow) : std::nullopt;
 }
 
@@ -95,14 +138,9 @@ std::optional<PixelRect> BoundsReader::onScreens(const PixelRect& bounds) {
     return visible;
 }
 
-std::optional<PixelRect> BoundsReader::unitedExtents(const std::vector<TextSpan>& pieces) {
-    std::vector<Request> questions;
-    questions.reserve(pieces.size());
-    for (const auto& piece : pieces) {
-        questions.push_back(requests::rangeExtents(piece.object, piece.start, piece.end));
-    }
+std::optional<PixelRect> BoundsReader::unitedExtents(const std::vector<QDBusMessage>& replies) {
     std::optional<PixelRect> whole;
-    for (const auto& reply : inquiry_.askAll(questions)) {
+    for (const auto& reply : replies) {
         const auto x = Inquiry::decode<int>(reply, 0);
         const auto y = Inquiry::decode<int>(reply, 1);
         const auto width = Inquiry::decode<int>(reply, 2);

@@ -23,7 +23,8 @@ public:
     std::optional<PixelRect> read(const std::vector<TextSpan>& spans, ProcessIdentifier process);
 
 private:
-    std::optional<PixelRect> unitedExtents(const std::vector<TextSpan>& pieces);
+    /// The smallest rectangle around the answers, as the application says it.
+    static std::optional<PixelRect> unitedExtents(const std::vector<QDBusMessage>& replies);
     std::optional<PixelRect> onScreens(const PixelRect& bounds);
 
     Inquiry& inquiry_;

@@ -1,7 +1,5 @@
 #include "platform/linux/atspi/FocusFinder.h"
 
-#include <QDBusError>
-
 #include <algorithm>
 
 namespace platform {
@@ -87,14 +85,13 @@ std::vector<ObjectReference> FocusFinder::activeWindows(const QString& service, 
 
 std::optional<FocusedObject> FocusFinder::search(const QString& service, Inquiry& inquiry) {
     for (const auto& window : activeWindows(service, inquiry)) {
-        const auto reply = inquiry.ask(requests::focusedDescendants(window));
-        const auto hits = Inquiry::decode<QList<ObjectReference>>(reply);
+        const auto replies =
+            inquiry.askAll({requests::states(window), requests::focusedDescendants(window)});
+        const auto hits = Inquiry::decode<QList<ObjectReference>>(replies[1]);
         if (!hits) {
-            // A window that closed in between says nothing of the application.
-            const auto error = QDBusError(reply).type();
-            const bool gone = error == QDBusError::UnknownObject ||
-                              error == QDBusError::ServiceUnknown || error == QDBusError::NoReply;
-            if (!inquiry.ranOut() && !gone) {
+            // A window that closed in between says nothing of the application. One that is there
+            // and does not search never will, whatever it calls the reason.
+            if (!inquiry.ranOut() && statesIn(replies[0]).has(State::Active)) {
                 withoutCollection_.insert(service);
             }
             return std::nullopt;

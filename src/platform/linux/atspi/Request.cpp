@@ -10,9 +10,6 @@ const auto accessibleInterface = QStringLiteral("org.a11y.atspi.Accessible");
 const auto textInterface = QStringLiteral("org.a11y.atspi.Text");
 const auto propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
 
-/// Relative to the screen, not to the window.
-constexpr unsigned screenCoordinates = 0;
-
 Request property(const ObjectReference& object, const QString& name) {
     return {object, propertiesInterface, QStringLiteral("Get"), {accessibleInterface, name}};
 }
@@ -75,16 +72,25 @@ Request text(const ObjectReference& object, int start, int end) {
     return {object, textInterface, QStringLiteral("GetText"), {start, end}};
 }
 
-Request rangeExtents(const ObjectReference& object, int start, int end) {
-    return {
-        object, textInterface, QStringLiteral("GetRangeExtents"), {start, end, screenCoordinates}};
+Request rangeExtents(const ObjectReference& object, int start, int end, Coordinates relativeTo) {
+    return {object,
+            textInterface,
+            QStringLiteral("GetRangeExtents"),
+            {start, end, static_cast<unsigned>(relativeTo)}};
 }
 
-Request extents(const ObjectReference& object) {
+Request characterExtents(const ObjectReference& object, int offset, Coordinates relativeTo) {
+    return {object,
+            textInterface,
+            QStringLiteral("GetCharacterExtents"),
+            {offset, static_cast<unsigned>(relativeTo)}};
+}
+
+Request extents(const ObjectReference& object, Coordinates relativeTo) {
     return {object,
             QStringLiteral("org.a11y.atspi.Component"),
             QStringLiteral("GetExtents"),
-            {screenCoordinates}};
+            {static_cast<unsigned>(relativeTo)}};
 }
 
 Request processOf(const QString& service) {

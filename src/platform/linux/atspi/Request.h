@@ -17,6 +17,9 @@ struct Request {
     QDBusMessage message() const;
 };
 
+/// What the coordinates of an answer are relative to.
+enum class Coordinates : unsigned { Screen = 0, Window = 1 };
+
 /// The questions that this layer knows. The type of each answer stands behind it.
 namespace requests {
 
@@ -30,10 +33,11 @@ Request focusedDescendants(const ObjectReference& object);       // QList<Object
 Request selectionCount(const ObjectReference& object);           // int
 Request selection(const ObjectReference& object, int index);     // int, int
 Request text(const ObjectReference& object, int start, int end); // QString
-/// Relative to the screen; five integers would be a wrong answer.
-Request rangeExtents(const ObjectReference& object, int start, int end); // int, int, int, int
-Request extents(const ObjectReference& object);                          // Extents
-Request processOf(const QString& service);                               // unsigned
+/// Rectangles of text are four integers, those of objects one structure.
+Request rangeExtents(const ObjectReference& object, int start, int end, Coordinates relativeTo);
+Request characterExtents(const ObjectReference& object, int offset, Coordinates relativeTo);
+Request extents(const ObjectReference& object, Coordinates relativeTo); // Extents
+Request processOf(const QString& service);                              // unsigned
 
 } // namespace requests
 

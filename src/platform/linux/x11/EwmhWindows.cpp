@@ -27,12 +27,15 @@ EwmhWindows::EwmhWindows(std::shared_ptr<XcbConnection> connection)
     , activeWindow_(*connection_)
     , workAreas_(*connection_) {}
 
-std::optional<PixelRect> EwmhWindows::activeWindowClientArea(ProcessIdentifier process) {
+std::optional<WindowPlace> EwmhWindows::placeOfActiveWindow(ProcessIdentifier process) {
     // The last one counts as well: asked of a process that just lost the keyboard, its window is
     // still where the text was.
     activeWindow_.current();
     const auto window = activeWindow_.lastOf(process);
-    return window ? properties_.clientArea(*window) : std::nullopt;
+    const auto surface = window ? properties_.clientArea(*window) : std::nullopt;
+    return surface
+               ? std::optional(WindowPlace{*surface, properties_.withoutShadow(*window, *surface)})
+               : std::nullopt;
 }
 
 PixelGeometry EwmhWindows::pixelGeometry() {

@@ -15,7 +15,7 @@ class EwmhWindows final : public ApplicationWindows {
 public:
     explicit EwmhWindows(std::shared_ptr<XcbConnection> connection);
 
-    std::optional<PixelRect> activeWindowClientArea(ProcessIdentifier process) override;
+    std::optional<WindowPlace> placeOfActiveWindow(ProcessIdentifier process) override;
     PixelGeometry pixelGeometry() override;
 
     XcbConnection& connection() { return *connection_; }

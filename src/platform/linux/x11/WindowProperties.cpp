@@ -2,6 +2,7 @@
 
 #include <QSysInfo>
 
+#include <algorithm>
 #include <cstring>
 
 namespace platform {
@@ -104,6 +105,21 @@ std::optional<PixelRect> WindowProperties::clientArea(xcb_window_t window) const
         return std::nullopt;
     }
     return PixelRect{place->dst_x, place->dst_y, size->width, size->height};
+}
+
+PixelRect WindowProperties::withoutShadow(xcb_window_t window, const PixelRect& clientArea) const {
+    const auto edges = numbers(window, "_GTK_FRAME_EXTENTS", XCB_ATOM_CARDINAL);
+    constexpr std::uint32_t widest = 1000;
+    if (edges.size() != 4 || *std::max_element(edges.begin(), edges.end()) > widest) {
+        return clientArea;
+    }
+    const auto left = static_cast<int>(edges[0]);
+    const auto right = static_cast<int>(edges[1]);
+    const auto top = static_cast<int>(edges[2]);
+    const auto bottom = static_cast<int>(edges[3]);
+    const PixelRect visible{clientArea.x + left, clientArea.y + top,
+                            clientArea.width - left - right, clientArea.height - top - bottom};
+    return visible.isEmpty() ? clientArea : visible;
 }
 
 } // namespace platform

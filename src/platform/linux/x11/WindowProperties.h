@@ -41,6 +41,8 @@ public:
 
     /// A window without its border, in the root window's pixels.
     std::optional<PixelRect> clientArea(xcb_window_t window) const;
+    /// The client area less the shadow that the application says it draws there itself.
+    PixelRect withoutShadow(xcb_window_t window, const PixelRect& clientArea) const;
 
 private:
     struct Bytes {

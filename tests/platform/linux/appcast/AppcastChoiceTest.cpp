@@ -15,7 +15,7 @@ AppcastItem release(const char* version) {
 }
 
 const Installation installation{{u"1.0.2"_s, u"7"_s}, {12, 4, 0}};
-const QDateTime noon({2026, 11, 23}, {12, 0}, Qt::UTC);
+const QDateTime noon({2026, 11, 23}, {12, 0}, QTimeZone::utc());
 
 QString chosen(const std::vector<AppcastItem>& items,
                const std::optional<RolloutMoment>& moment = std::nullopt) {

@@ -56,7 +56,7 @@ TEST(AppcastReader, reads_everything_that_decides_and_everything_that_is_shown) 
     EXPECT_EQ(item.channel, u"beta"_s);
     EXPECT_EQ(item.minimumSystemVersion, u"12.0"_s);
     EXPECT_EQ(item.maximumSystemVersion, u"13"_s);
-    EXPECT_EQ(item.published, QDateTime({2026, 11, 23}, {8, 0}, Qt::UTC));
+    EXPECT_EQ(item.published, QDateTime({2026, 11, 23}, {8, 0}, QTimeZone::utc()));
     EXPECT_EQ(item.phasedRolloutInterval, std::chrono::hours(24));
     EXPECT_TRUE(item.isCritical);
     EXPECT_EQ(item.criticalBelow, u"9"_s);

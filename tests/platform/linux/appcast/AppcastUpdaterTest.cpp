@@ -74,7 +74,7 @@ protected:
                                  {u"linux"_s, {}},
                                  folder.filePath(u"state/updates.json"_s),
                                  [this] {
-                                     return QDateTime({2026, 11, 23}, {12, 0}, Qt::UTC)
+                                     return QDateTime({2026, 11, 23}, {12, 0}, QTimeZone::utc())
                                          .addMSecs(qint64(system.runLoop.now() * 1000));
                                  }},
             system.runLoop, transport, system.workspace, notifications);
@@ -235,7 +235,7 @@ TEST_F(AppcastUpdaterTest, remembers_nothing_from_a_file_that_is_not_its_own) {
         EXPECT_LT(record.rolloutGroup(), rolloutGroups) << contents;
 
         record.skip({u"1.1"_s, u"9"_s});
-        record.setLastCheck(QDateTime({2026, 11, 23}, {12, 0}, Qt::UTC));
+        record.setLastCheck(QDateTime({2026, 11, 23}, {12, 0}, QTimeZone::utc()));
         const UpdateRecord next(path);
         EXPECT_EQ(next.lastCheck(), record.lastCheck());
         EXPECT_EQ(next.rolloutGroup(), record.rolloutGroup());

@@ -12,11 +12,15 @@ namespace fakes {
 /// Windows that stand where the test puts them.
 struct StillWindows final : platform::ApplicationWindows {
     std::optional<platform::PixelRect> clientArea = platform::PixelRect{0, 0, 1920, 1080};
+    /// Without the shadow, where there is one.
+    std::optional<platform::PixelRect> visible;
     platform::PixelGeometry geometry;
 
-    std::optional<platform::PixelRect>
-    activeWindowClientArea(platform::ProcessIdentifier) override {
-        return clientArea;
+    std::optional<platform::WindowPlace> placeOfActiveWindow(platform::ProcessIdentifier) override {
+        if (!clientArea) {
+            return std::nullopt;
+        }
+        return platform::WindowPlace{*clientArea, visible.value_or(*clientArea)};
     }
     platform::PixelGeometry pixelGeometry() override { return geometry; }
 };

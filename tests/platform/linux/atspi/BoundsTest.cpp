@@ -122,4 +122,53 @@ TEST_F(BoundsTest, UnitsOfSeveralPixelsAreKnownByTheSizeOfTheWindow) {
     EXPECT_EQ(boundsInWindow({0, 0, 0, 0}), (Rect{347, 237, 45, 18}));
 }
 
+TEST_F(BoundsTest, WindowCoordinatesAreTakenWhereThereAreNoOthers) {
+    // One line, of whose range only the place and the height are told right.
+    auto object = focusedText(u"line"_s, {{0, 4}});
+    object.ranges.insert({0, 4}, {8, 142, 4, 16});
+    object.characters = {{0, {8, 142, 4, 16}}, {3, {122, 142, 7, 16}}};
+    object.knowsWindowOnly = true;
+    struct Row {
+        const char* what;
+        PixelRect surface;
+        PixelRect visible;
+        Extents window;
+        Rect expected;
+    };
+    for (const auto& row : std::initializer_list<Row>{{"a bare window",
+                                                       {200, 150, 700, 420},
+                                                       {200, 150, 700, 420},
+                                                       {0, 0, 700, 420},
+                                                       {208, 292, 121, 16}},
+                                                      {"a shadow",
+                                                       {200, 150, 700, 420},
+                                                       {261, 205, 578, 298},
+                                                       {0, 0, 578, 298},
+                                                       {269, 347, 121, 16}},
+                                                      {"a solid border",
+                                                       {200, 150, 700, 420},
+                                                       {200, 150, 700, 420},
+                                                       {-5, -5, 700, 420},
+                                                       {218, 302, 121, 16}},
+                                                      {"two pixels to a unit",
+                                                       {200, 150, 1022, 658},
+                                                       {322, 260, 778, 414},
+                                                       {0, 0, 389, 207},
+                                                       {338, 544, 242, 32}}}) {
+        SCOPED_TRACE(row.what);
+        windows.clientArea = row.surface;
+        windows.visible = row.visible;
+        show(object);
+        application.set(u"/window"_s, {.states = {platform::State::Active},
+                                       .hasText = false,
+                                       .parent = platform::ObjectReference::root({}).path,
+                                       .children = {u"/text"_s},
+                                       .extents = row.window});
+        application.set(u"root"_s, {.role = static_cast<unsigned>(platform::Role::Application),
+                                    .children = {u"/window"_s}});
+        start();
+        EXPECT_EQ(look().bounds, row.expected);
+    }
+}
+
 } // namespace

@@ -71,8 +71,13 @@ QDBusMessage FakeApplication::answer(const QDBusMessage& call) const {
     if (const auto misbehaviour = object->misbehaviours.value(question)) {
         return misbehaviour(call);
     }
+    if (object->knowsWindowOnly && question.endsWith(u"Extents") &&
+        call.arguments().last().toUInt() == 0) {
+        return call.createErrorReply(QDBusError::NotSupported, question);
+    }
     const QVariantList values = ownAnswer(*object, question, call.arguments());
-    return values.isEmpty() ? call.createErrorReply(QDBusError::UnknownMethod, question)
+    // Some toolkits say of an object that is there, and has just answered, that it is not.
+    return values.isEmpty() ? call.createErrorReply(QDBusError::UnknownObject, question)
                             : call.createReply(values);
 }
 
@@ -124,6 +129,10 @@ QVariantList FakeApplication::ofText(const FakeObject& object, const QString& qu
     if (question == u"GetRangeExtents") {
         const auto range = object.ranges.value({first, second});
         return {range.x, range.y, range.width, range.height};
+    }
+    if (question == u"GetCharacterExtents") {
+        const auto character = object.characters.value(first);
+        return {character.x, character.y, character.width, character.height};
     }
     return {};
 }

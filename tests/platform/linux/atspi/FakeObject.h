@@ -37,6 +37,9 @@ struct FakeObject {
     platform::Extents extents = {};
     /// Of each range, by its first and last offset.
     QMap<std::pair<int, int>, platform::Extents> ranges = {};
+    QMap<int, platform::Extents> characters = {};
+    /// Refuses to tell where anything is on the screen.
+    bool knowsWindowOnly = false;
     /// By the name of the question.
     QMap<QString, Misbehaviour> misbehaviours = {};
 };

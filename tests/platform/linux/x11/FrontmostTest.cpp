@@ -70,7 +70,7 @@ TEST_F(XWindowsTest, ActivatingBringsTheVeryWindowBackThatWasActiveLast) {
 
     workspace.activate(target);
     EXPECT_TRUE(waitForActive(*second));
-    EXPECT_EQ(windows.activeWindowClientArea(installedProcess)->width, 200);
+    EXPECT_EQ(windows.placeOfActiveWindow(installedProcess)->surface.width, 200);
 
     first->focus();
     ASSERT_TRUE(waitForActive(*first));
