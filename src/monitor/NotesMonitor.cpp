@@ -32,6 +32,9 @@ std::optional<platform::Screen> primaryScreen(platform::Screens& screens) {
 
 } // namespace
 
+NotesMonitor::NotesMonitor()
+    : NotesMonitor(platform::current(), settings::AppSettingsManager::shared()) {}
+
 NotesMonitor::NotesMonitor(platform::Platform& platform, settings::AppSettingsManager& settings)
     : platform_(platform)
     , settings_(settings) {}
@@ -81,6 +84,7 @@ void NotesMonitor::pollForSelection() {
     }
 
     if (text->isEmpty()) {
+        isBarShowing_ = false;
         clearIfSomethingWasSelected();
         return;
     }
@@ -93,11 +97,13 @@ void NotesMonitor::pollForSelection() {
     }
 
     cancelAppearance();
+    isBarShowing_ = false;
     const Seconds delay(settings_.appearanceDelay);
     if (delay > Seconds::zero()) {
         pendingSelectionRect_ = currentSelectionRect_;
         scheduleAppearance(delay);
     } else {
+        isBarShowing_ = true;
         report(true, currentSelectionRect_);
     }
 }
@@ -121,6 +127,7 @@ void NotesMonitor::cancelAppearance() {
 void NotesMonitor::scheduleAppearance(Seconds delay) {
     appearanceDelayTimer_ = platform_.runLoop->scheduleOnce(delay, RunLoopMode::Common, [this] {
         if (hasSelection_ && !pendingSelectionRect_.isZero()) {
+            isBarShowing_ = true;
             report(true, pendingSelectionRect_);
         }
     });

@@ -21,6 +21,8 @@ public:
     /// rectangle asks for it to go.
     using SelectionHandler = std::function<void(bool visible, const platform::Rect& rect)>;
 
+    /// On the current platform, with the shared settings.
+    NotesMonitor();
     /// Both must outlive the monitor.
     NotesMonitor(platform::Platform& platform, settings::AppSettingsManager& settings);
 
@@ -64,8 +66,12 @@ private:
     bool hasSelection_ = false;
     core::Registration selectionPollingTimer_;
     QString lastSelectedText_;
+    /// Of the target application; nobody has set it yet.
+    [[maybe_unused]] Element currentApp_;
     core::Registration appearanceDelayTimer_;
     platform::Rect pendingSelectionRect_;
+    /// Whether the bar was asked for, as far as that follows from polls alone. Nobody reads it yet.
+    [[maybe_unused]] bool isBarShowing_ = false;
     core::Registration eventMonitor_;
 };
 

@@ -6,14 +6,15 @@ namespace platform {
 
 namespace {
 
+/// A point lies in the span that it begins, not in the one that it ends.
 bool spansIntersect(double minA, double maxA, double minB, double maxB) {
-    const double from = std::max(minA, minB);
-    const double to = std::min(maxA, maxB);
-    if (from < to) {
-        return true;
+    if (minA == maxA) {
+        return minA == minB || (minA > minB && minA < maxB);
     }
-    const bool oneIsAPoint = minA == maxA || minB == maxB;
-    return oneIsAPoint && from == to;
+    if (minB == maxB) {
+        return minB >= minA && minB < maxA;
+    }
+    return std::max(minA, minB) < std::min(maxA, maxB);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "ui/Modifiers.h"
 
 #include "ui/Decoration.h"
+#include "ui/DevicePixels.h"
 #include "ui/FocusRing.h"
 
 #include <QLayout>
@@ -72,7 +73,8 @@ protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        strokeInside(painter, rect(), shape_, color(tint_, palette()), lineWidth_);
+        strokeInside(painter, wholeDevicePixels(painter, rect()), shape_, color(tint_, palette()),
+                     lineWidth_);
     }
 
 private:

@@ -80,11 +80,13 @@ void Popover::place() {
 
 void Popover::raiseAfterAnchor() {
     // Whoever moves or shows the anchor's window brings it to the front next; the arrow must lie
-    // over its edge all the same.
+    // over its edge all the same. And while the window is being shown, the toolkit still tells
+    // where it stood before.
     QMetaObject::invokeMethod(
         this,
         [this] {
             if (dismissal_) {
+                place();
                 window_->orderFront();
             }
         },

@@ -1,5 +1,6 @@
 #include "ui/Stack.h"
 
+#include "ui/DevicePixels.h"
 #include "ui/Theme.h"
 
 #include <QBoxLayout>
@@ -27,7 +28,8 @@ public:
 
 protected:
     void paintEvent(QPaintEvent*) override {
-        QPainter(this).fillRect(rect(), color({Color::Separator}, palette()));
+        QPainter painter(this);
+        painter.fillRect(hairline(painter, rect()), color({Color::Separator}, palette()));
     }
 };
 

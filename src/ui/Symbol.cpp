@@ -1,12 +1,13 @@
 #include "ui/Label.h"
 
 #include "platform/Platform.h"
+#include "ui/DevicePixels.h"
 #include "ui/LabelOpacity.h"
 
 #include <QLinearGradient>
 #include <QPainter>
 
-#include <cmath>
+#include <utility>
 
 namespace ui {
 
@@ -49,19 +50,41 @@ private:
         QPainter painter(&image);
         painter.drawImage(0, 0, withoutRatio(shape));
         painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-        painter.fillRect(image.rect(), brush(image.width()));
+        painter.fillRect(image.rect(), brush(columnsOf(image)));
         painter.end();
         image.setDevicePixelRatio(shape.devicePixelRatio());
         return image;
     }
 
-    QBrush brush(int length) const {
+    /// What is drawn of an image lies between these columns, however large its cell.
+    static std::pair<int, int> columnsOf(const QImage& image) {
+        const auto isDrawn = [&](int x) {
+            for (int y = 0; y < image.height(); ++y) {
+                if (qAlpha(image.pixel(x, y)) > 0) {
+                    return true;
+                }
+            }
+            return false;
+        };
+        int first = 0;
+        int end = image.width();
+        while (first < end && !isDrawn(first)) {
+            ++first;
+        }
+        while (end > first && !isDrawn(end - 1)) {
+            --end;
+        }
+        return {first, end};
+    }
+
+    QBrush brush(std::pair<int, int> columns) const {
         const auto& colors = options_.colors;
         if (colors.size() == 1) {
             return color(colors.front()(), palette());
         }
         const bool mirrored = layoutDirection() == Qt::RightToLeft;
-        QLinearGradient gradient(mirrored ? length : 0, 0, mirrored ? 0 : length, 0);
+        const auto [first, end] = columns;
+        QLinearGradient gradient(mirrored ? end : first, 0, mirrored ? first : end, 0);
         for (std::size_t i = 0; i < colors.size(); ++i) {
             gradient.setColorAt(static_cast<double>(i) / static_cast<double>(colors.size() - 1),
                                 color(colors[i](), palette()));
@@ -72,13 +95,6 @@ private:
     static QImage withoutRatio(QImage image) {
         image.setDevicePixelRatio(1);
         return image;
-    }
-
-    /// The nearest place at which the image's pixels are those of the device.
-    static QPointF onDevicePixels(const QPainter& painter, QPointF point) {
-        const QTransform device = painter.deviceTransform();
-        const QPointF pixel = device.map(point);
-        return device.inverted().map(QPointF(std::round(pixel.x()), std::round(pixel.y())));
     }
 
     QString name_;

@@ -45,13 +45,6 @@ public:
                 setText(next);
             }
         })));
-        if (options_.onSubmit) {
-            connect(this, &QLineEdit::returnPressed, this, [this] {
-                if (!isComposing_) {
-                    options_.onSubmit();
-                }
-            });
-        }
         if (const auto& isFocused = options_.isFocused) {
             keep(*this, std::pair(isFocused, isFocused->observe([this](bool wanted) {
                 if (wanted && !hasFocus()) {
@@ -72,8 +65,20 @@ protected:
             event->accept();
             return true;
         }
-        return (options_.onKeyPress && options_.onKeyPress(static_cast<QKeyEvent&>(*event))) ||
-               QLineEdit::event(event);
+        auto& press = static_cast<QKeyEvent&>(*event);
+        if (options_.onKeyPress && options_.onKeyPress(press)) {
+            return true;
+        }
+        const bool submits = press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter;
+        if (!submits || !options_.onSubmit) {
+            return QLineEdit::event(event);
+        }
+        // Nobody around the field submits a second time. The call may end the field, and with it
+        // what is called: nothing of either is touched after it.
+        press.accept();
+        const auto submit = options_.onSubmit;
+        submit();
+        return true;
     }
 
     void inputMethodEvent(QInputMethodEvent* event) override {

@@ -101,27 +101,6 @@ TEST_F(AppDelegateTest, LaunchShowsTheItemBeforeMonitoringAndStartsTheUpdaterThr
     EXPECT_EQ(fakes.updater.checks, 1);
 }
 
-TEST_F(AppDelegateTest, AFurtherStartOrTheDesktopMayAskItToQuit) {
-    launch();
-    ASSERT_TRUE(fakes.programInstance.handler);
-    QTimer::singleShot(0, qApp, [&] {
-        fakes.programInstance.handler({platform::InstanceRequest::Kind::Quit, {}});
-    });
-    QTimer::singleShot(5000, qApp, [] { QCoreApplication::exit(1); });
-    EXPECT_EQ(QApplication::exec(), 0);
-    delegate.reset();
-    EXPECT_FALSE(fakes.programInstance.handler);
-}
-
-TEST_F(AppDelegateTest, ADelegateThatIsGoneStartsNoUpdaterAndLeavesNoItem) {
-    launch();
-    delegate.reset();
-    fakes.runLoop.advance(10);
-    core::NotificationCenter::defaultCenter().post(QStringLiteral("showFeedbackSheet"));
-    EXPECT_EQ(fakes.updater.starts, 0);
-    EXPECT_EQ(fakes.statusItem.menu, nullptr);
-}
-
 TEST_F(AppDelegateTest, ASelectionBringsTheBarAndAClickPostsToWhereItWasMade) {
     launch();
     fakes.accessibility.text = QStringLiteral("word");
@@ -210,26 +189,6 @@ TEST_F(AppDelegateTest, EveryOpeningOfTheFeedbackFormStartsEmptyInTheSameWindow)
     EXPECT_TRUE(std::any_of(texts.begin(), texts.end(), [](const QWidget* text) {
         return text->accessibleName() == u"Corvane Quillet – Hauptfenster";
     }));
-}
-
-TEST_F(AppDelegateTest, SaysThatAccessIsGrantedEvenWhenItCameTooLate) {
-    fakes.accessibility.trusted = false;
-    launch();
-    fakes.accessibility.trusted = true;
-    entry(4).trigger();
-    EXPECT_EQ(fakes.accessibility.trustQuestions.back(), platform::TrustPrompt::Hidden);
-    ASSERT_EQ(fakes.alerts.shown.size(), 1U);
-    const platform::Alert& alert = fakes.alerts.shown.front();
-    EXPECT_EQ(alert.style, platform::AlertStyle::Informational);
-    EXPECT_EQ(alert.messageText, QStringLiteral("Accessibility Access Granted"));
-    EXPECT_EQ(alert.informativeText,
-              QStringLiteral("Corvane Quillet has the required accessibility permissions."));
-    EXPECT_EQ(alert.buttons, QStringList{QStringLiteral("OK")});
-    EXPECT_TRUE(fakes.workspace.opened.empty());
-
-    select(QStringLiteral("word"));
-    EXPECT_EQ(fakes.accessibility.calls, 0);
-    EXPECT_FALSE(barIsVisible());
 }
 
 TEST_F(AppDelegateTest, OffersTheSystemsSettingsWithoutAccess) {

@@ -40,11 +40,6 @@ TEST(BarPlacement, StaysNearTheSelectionInsideTheVisibleFrame) {
     }
 }
 
-TEST(BarPlacementOddScreens, TheLeftAndTheBottomMarginWinOnAScreenTooSmall) {
-    const Screen tiny{{100, 100, 500, 50}, {100, 100, 500, 50}};
-    EXPECT_EQ(bar::barOrigin({300, 110, 20, 10}, tiny), (Point{108, 108}));
-}
-
 TEST(BarPlacementOddScreens, WithoutAScreenTheBarStandsAboveTheSelection) {
     EXPECT_EQ(bar::barOrigin({-5000, 9000, 20, 10}, std::nullopt), (Point{-5000, 9018}));
 }

@@ -50,29 +50,6 @@ TEST_F(FormattingBarController, StaysWhenItIsShownAgainWithinTheGrace) {
     EXPECT_EQ(frame(), (Rect{100, 318, 660, 44}));
 }
 
-TEST_F(FormattingBarController, HidesOnTimeWhileAMenuOfOurOwnIsOpenAndWithoutAWindow) {
-    controller_->hide();
-    fake_.runLoop.advance(1);
-    show();
-    fake_.runLoop.beginMenuTracking();
-    controller_->hide();
-    fake_.runLoop.advance(0.3);
-    EXPECT_FALSE(window().isVisible());
-}
-
-TEST_F(FormattingBarController, ReportsToWhomeverItsCallbacksNameAtTheMoment) {
-    show();
-    controller_->onFormatSelected = [this](bar::TextFormat) {
-        reports_.push_back(QStringLiteral("new"));
-    };
-    click(window(), "italic");
-    controller_->onFormatSelected = nullptr;
-    controller_->onOpenColorPicker = nullptr;
-    click(window(), "italic");
-    click(window(), "paintpalette.fill");
-    EXPECT_EQ(reports_, std::vector{QStringLiteral("new")});
-}
-
 TEST_F(FormattingBarController, SaysWhereTheColourPanelGoesBeforeItReportsTheChoice) {
     show(2);
     monitor::NotesAutomation::colorPanelPosition = {};
@@ -102,18 +79,6 @@ TEST_F(FormattingBarController, CanBeEndedByItsOwnCallbacks) {
     click(window(), "bold");
     EXPECT_EQ(reports_, std::vector{QStringLiteral("ended")});
     EXPECT_FALSE(hasWindow("bar"));
-}
-
-TEST_F(FormattingBarController, LeavesTheBackgroundToASystemThatHasMaterials) {
-    fake_.windowServer.materials = true;
-    show();
-    EXPECT_EQ(fake_.windowServer.materialPlace, QRect(-25, 3, 640, 38));
-    show(); // now at full width
-    EXPECT_EQ(fake_.windowServer.materialPlace, QRect(10, 3, 640, 38));
-    EXPECT_EQ(fake_.windowServer.material.material, 13);
-    EXPECT_EQ(fake_.windowServer.material.blendingMode, 0);
-    EXPECT_EQ(fake_.windowServer.material.cornerRadius, 10);
-    EXPECT_EQ(pixel(window(), {325, 5}).alpha(), 0);
 }
 
 } // namespace

@@ -114,17 +114,6 @@ TEST_F(FormattingBarView, HighlightsTheButtonUnderThePointerAtAFifthOfTheAccent)
     }
 }
 
-TEST_F(FormattingBarView, TheHeadingButtonStaysHighlightedWhileItsPickerIsOpen) {
-    show(2);
-    const QPoint beside = place(window(), "textformat.size").topLeft() + QPoint(3, 3);
-    click(window(), "textformat.size");
-    pointAt(window(), {325, 2});
-    expectNear(pixel(window(), beside), highlight(0.2, ui::Color::HudMaterial));
-    click(window(), "textformat.size");
-    pointAt(window(), {325, 2});
-    expectNear(pixel(window(), beside), highlight(0, ui::Color::HudMaterial));
-}
-
 TEST_F(FormattingBarView, TheColourButtonRunsThroughTheRainbow) {
     show(2);
     const QRect button = place(window(), "paintpalette.fill");

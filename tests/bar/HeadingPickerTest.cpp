@@ -45,12 +45,6 @@ TEST_F(HeadingPicker, HangsWithItsArrowOnTheButtonsBottomEdgeAndFollowsTheBar) {
     EXPECT_EQ(fake_.record, fakes::Record{"order front"});
 }
 
-TEST_F(HeadingPicker, OpensAboveTheButtonWhereThereIsNoRoomBelow) {
-    controller_->show({400, 20, 40, 18});
-    open();
-    EXPECT_EQ(frame().minY(), headingButton().maxY());
-}
-
 TEST_F(HeadingPicker, LaysOutItsRowsInTheFontsOfTheirLevels) {
     show(2);
     open();
@@ -81,19 +75,6 @@ TEST_F(HeadingPicker, LaysOutItsRowsInTheFontsOfTheirLevels) {
         y += place.height() + 4;
     }
     EXPECT_EQ(picker().height(), y - 4 + 8);
-}
-
-TEST_F(HeadingPicker, IsClosedByTheTimeItsChoiceIsReported) {
-    show(2);
-    std::vector<std::pair<bar::HeadingLevel, bool>> reports;
-    controller_->onHeadingSelected = [&](bar::HeadingLevel level) {
-        reports.emplace_back(level, isOpen());
-    };
-    for (const char* label : {"Title", "Heading", "Subheading", "Body"}) {
-        open();
-        click(picker(), label);
-    }
-    EXPECT_EQ(reports, (decltype(reports){{1, false}, {2, false}, {3, false}, {0, false}}));
 }
 
 TEST_F(HeadingPicker, HighlightsTheRowUnderThePointerAtThreeTenthsOfTheAccent) {
@@ -131,17 +112,6 @@ TEST_F(HeadingPicker, IsDismissedByAPressElsewhereEscapeOrAnotherActiveWindow) {
     open();
     EXPECT_TRUE(isOpen());
     EXPECT_TRUE(reports_.empty());
-}
-
-TEST_F(HeadingPicker, APressInItselfOrOnItsButtonDoesNotDismissIt) {
-    show(2);
-    open();
-    press({frame().x + 1, frame().y + 1});
-    EXPECT_TRUE(isOpen());
-    const Rect button = headingButton();
-    press({button.x + 1, button.y + 1});
-    open(); // the click that this press was: the toggle, once
-    EXPECT_FALSE(isOpen());
 }
 
 TEST_F(HeadingPicker, GoesAndComesBackWithTheBar) {

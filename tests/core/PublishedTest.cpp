@@ -59,12 +59,3 @@ TEST(Published, ObserversMayComeAndGoWhileTheyAreTold) {
     EXPECT_EQ(calls, (std::vector<char>{'a', 'c'}));
 }
 
-TEST(Published, ARegistrationMayOutliveItsValue) {
-    Registration observer;
-    {
-        Published<int> value(0);
-        observer = value.observe([](int) {});
-    }
-    observer.reset();
-    EXPECT_FALSE(observer);
-}

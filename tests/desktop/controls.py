@@ -61,10 +61,6 @@ class Control:
         return self._bus.has_state(*self._node, CHECKED)
 
     @property
-    def is_selected(self):
-        return self._bus.has_state(*self._node, SELECTED)
-
-    @property
     def description(self):
         return self._get(_ACCESSIBLE, "Description")
 

@@ -17,7 +17,7 @@ class Desktop:
             self.hands = Hands(self.session.display)
             self.windows = Windows(self.session.display)
             self.camera = Camera(self.session.display)
-            self.accessibility = (AccessibilityBus(self.session)
+            self.accessibility = (AccessibilityBus(self.session, self.windows)
                                   if options.get("accessibility", True) else None)
         except BaseException:
             self.close()

@@ -59,6 +59,14 @@ def command_line(pid):
         return ""
 
 
+def executable(pid):
+    """The file that a process runs; empty when it is gone."""
+    try:
+        return os.readlink(f"/proc/{pid}/exe")
+    except OSError:
+        return ""
+
+
 def end_all_with_environment(name, value, limit=3.0):
     """Ends what is left of a session."""
     for number in (signal.SIGCONT, signal.SIGTERM):

@@ -43,11 +43,6 @@ class SettingsWindow:
         self._desktop.hands.click(*control.frame.centre)
         return control
 
-    def slider_point(self, share):
-        """Where the slider's knob is when it has gone a share of its way, in pixels."""
-        frame: Rect = self.controls.find("slider", "Delay before appearing").frame
-        return frame.x + KNOB / 2 + share * (frame.width - KNOB), frame.y + KNOB / 2
-
     def stored(self):
         """What stands in the settings file."""
         with open(settings_path(self._desktop.session), encoding="utf-8") as file:

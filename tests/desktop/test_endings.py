@@ -61,15 +61,6 @@ class SignalTest(NoteCase):
         finally:
             self.hands.release("Shift_L")
 
-    def test_it_ends_while_a_window_of_its_own_waits_for_the_user(self):
-        for entry in ("Check Accessibility...", "Settings...", "Feedback senden …"):
-            with self.subTest(entry):
-                program = self.start_program()
-                program.wait_for_icon(self.tray).choose(entry)
-                wait.until(lambda: self.windows.client_of(program.pid), 3.0, "the window is there")
-                program.process.send_signal(signal.SIGTERM)
-                self.assert_ended(program)
-
 
 class LostServerTest(unittest.TestCase):
     """A server goes, and takes half the desktop along: nothing but the program is asked here."""

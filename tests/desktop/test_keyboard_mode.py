@@ -32,7 +32,7 @@ class KeyboardModeTest(NoteCase):
         shown = program.wait_for_bar_at(self.expected(words, first=True))
 
         # Other words neither move nor hide it, until the shortcut is pressed again.
-        self.hands.repeat("Shift+Left", 8)
+        self.hands.repeat("Shift+Right", 5)
         wait.throughout(lambda: program.bar_frame() == shown, LONG_ENOUGH, "the bar stays")
         self.hands.press("Control+Alt+f")
         program.wait_for_bar_at(self.expected(self.text.selection(), first=False))

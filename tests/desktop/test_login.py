@@ -8,8 +8,6 @@ import processes
 import wait
 from case import DesktopCase, EXECUTABLE
 from entries import Entries
-from program import Program
-from session_manager import RESTART_NEVER, SessionManager
 
 # Everything that means something to those who read an Exec line, on the way to the program.
 FOLDERS = ("my \"apps\" \\ $HOME `id`; 'ü' & a=b", "100%u $0 a=b %%")
@@ -39,7 +37,7 @@ class LoginTest(DesktopCase):
 
     def running(self, executable):
         session = processes.with_environment("XDG_RUNTIME_DIR", self.desktop.session.runtime_folder)
-        return [pid for pid in session if os.path.realpath(f"/proc/{pid}/exe") == executable]
+        return [pid for pid in session if processes.executable(pid) == executable]
 
     def program_in(self, folder):
         """A copy of the program that has registered itself, and has ended."""
@@ -73,12 +71,3 @@ class LoginTest(DesktopCase):
                 program = self.start_program()
                 wait.until(lambda: not os.path.exists(self.entry), 5.0, "the entry is gone")
                 program.end()
-
-    def test_a_session_manager_is_told_not_to_start_it_as_well(self):
-        manager = SessionManager()
-        program = Program(self.desktop, EXECUTABLE,
-                          environment={"SESSION_MANAGER": manager.address})
-        self.programs.append(program)
-        self.addCleanup(program.end)
-        manager.serve_until(lambda: manager.saved, 5.0, "the program has saved itself")
-        self.assertEqual(manager.properties["RestartStyleHint"], RESTART_NEVER)

@@ -28,13 +28,6 @@ class MenuTest(DesktopCase):
         self.assertEqual(shortcuts, {"Settings...": "Control+,",
                                      "Quit Corvane Quillet": "Control+Q"})
 
-    def test_the_icon_is_a_picture_with_the_programs_name(self):
-        item = self.start_program().wait_for_icon(self.tray)
-        self.assertTrue(item.icon_sizes())
-        _, _, title, _ = item.property("ToolTip")
-        self.assertEqual(title, "Corvane Quillet")
-        self.assertEqual(item.property("Category"), "ApplicationStatus")
-
     def test_quit_ends_it_with_the_bar(self):
         note = self.open_note("A few words.")
         program = self.start_at_once()

@@ -1,16 +1,9 @@
 """Desktops that lack something: the program says so where it matters, and goes on."""
 
-import json
-import os
-
 import bar
 import wait
 from case import DesktopCase, EXECUTABLE, SCREEN
-from entries import Entries
-from program import Program, settings_path, store_settings
-
-DEFAULTS = {"allowedApps": ["com.apple.Notes"], "useAllApps": True, "appearanceDelay": 0.3,
-            "useKeyboardShortcut": False, "shortcutKeyCode": 3, "shortcutModifiers": 0x180100}
+from program import Program
 
 
 class NoWindowManagerTest(DesktopCase):
@@ -46,34 +39,3 @@ class NoAccessibilityTest(DesktopCase):
         self.assertIn("Status: Ready", [entry.label for entry in menu])
         self.assertFalse(self.desktop.session.accessibility_is_on(),
                          "it was switched on without asking")
-
-
-class SettingsFileTest(DesktopCase):
-    """The settings are read when the first application is looked at."""
-
-    @classmethod
-    def setUpClass(cls):
-        super().setUpClass()
-        Entries(cls.desktop, "plain")
-
-    def stored(self):
-        """What the file holds, or None while there is no file."""
-        try:
-            with open(settings_path(self.desktop.session), encoding="utf-8") as file:
-                return json.load(file)
-        except FileNotFoundError:
-            return None
-
-    def test_a_damaged_file_is_set_aside_and_the_defaults_apply(self):
-        damaged = '{"useAllApps": false, "appearan'
-        store_settings(self.desktop.session, damaged)
-        program = self.start_program()
-        wait.until(lambda: any("settings" in line for line in program.output()), 5.0,
-                   "the program says that the settings are damaged")
-        wait.until(lambda: self.stored() == DEFAULTS, 5.0, "the defaults are stored")
-        folder = os.path.dirname(settings_path(self.desktop.session))
-        others = [name for name in os.listdir(folder) if name != "settings.json"]
-        self.assertEqual(len(others), 1, others)
-        with open(os.path.join(folder, others[0]), encoding="utf-8") as file:
-            self.assertEqual(file.read(), damaged)
-        os.remove(os.path.join(folder, others[0]))

@@ -25,7 +25,7 @@ class RestartTest(DesktopCase):
 
     def accessibility_bus(self):
         try:
-            return AccessibilityBus(self.desktop.session)
+            return AccessibilityBus(self.desktop.session, self.windows)
         except GLib.Error:
             return None  # The session has not noticed yet that its launcher is gone.
 

@@ -60,16 +60,6 @@ class RoadTest(NoteCase):
         wait.throughout(lambda: self.program.bar_frame() == frame, 0.8, "the bar stays")
         wait.until(lambda: "<bold>brown</bold>" in self.note.saved(), 10.0, "the note is saved")
 
-    def test_deselecting_hides_the_bar_after_the_grace_time(self):
-        self.desktop.select(self.text, "paragraph")
-        self.program.wait_for_bar()
-        self.desktop.deselect(self.text)
-        deselected = time.monotonic()
-        self.program.wait_until_hidden()
-        took = time.monotonic() - deselected
-        self.assertGreater(took, DELAY - 0.1)
-        self.assertLess(took, DELAY + POLL + SLACK)
-
     def test_extending_the_selection_moves_the_bar_without_hiding_it(self):
         start = self.text.offset_of("quick")
         end = start + len("quick")

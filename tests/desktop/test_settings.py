@@ -1,8 +1,6 @@
 """The settings window of the shipped program: opened, used with real hands, and obeyed."""
 
 import os
-import random
-import time
 
 import wait
 from case import DesktopCase, EXECUTABLE, NoteCase, SCREEN
@@ -72,37 +70,6 @@ class WithNote(SettingsCase, NoteCase):
         self.hands.press("Control+Shift+k")
         program.wait_for_bar()
 
-    def test_the_bar_obeys_the_choice_of_applications_at_the_next_poll(self):
-        program = self.start_at_once()
-        window = self.open_settings(program)
-        window.click("page tab", "Apps")
-        window.click("check box", "Enable for all applications")
-        window.controls.find("label", "1 app(s) selected")
-        self.select("few")
-        wait.throughout(lambda: program.bar_frame() is None, LONG_ENOUGH, "the bar is hidden")
-
-        self.windows.activate(window.window)
-        window.click("text", "Search apps...")
-        for key in "gnote":
-            self.hands.press(key)
-        window.click("check box", "Gnote")
-        window.controls.find("label", "2 app(s) selected")
-        window.wait_until_stored(allowedApps=["com.apple.Notes", "org.gnome.Gnote"])
-        self.desktop.focus(self.note)
-        program.wait_for_bar()  # The words are still selected.
-
-    def test_the_delay_that_the_slider_is_dragged_to_is_the_bars(self):
-        program = self.start_program()
-        window = self.open_settings(program)
-        self.hands.drag(window.slider_point(0.15), window.slider_point(0.5))
-        window.controls.find("label", "Delay before appearing: 1.0s")
-        window.wait_until_stored(appearanceDelay=1.0)
-        self.select("words")
-        selected = time.monotonic()
-        program.wait_for_bar()
-        self.assertGreater(time.monotonic() - selected, 0.9)
-        self.assertLess(time.monotonic() - selected, 1.8)
-
 
 class LooksTest(SettingsCase):
 
@@ -120,53 +87,6 @@ class LooksTest(SettingsCase):
         wait.until(lambda: brightness() > 200, 3.0, "the window is light")
         portal.prefer(DARK)
         wait.until(lambda: 20 < brightness() < 80, 3.0, "the window is dark again")
-
-    def test_damaged_desktop_entries_are_skipped_and_the_others_listed(self):
-        folder = os.path.join(self.desktop.session.environment["XDG_DATA_HOME"], "applications")
-        os.makedirs(folder)
-        entry = "[Desktop Entry]\nType=Application\nExec=true\n"
-        for name, content in {"good": entry + "Name=Aa good one\n", "nameless": entry,
-                              "undecodable": entry + "Name=\udcff\udcfe\n",
-                              "half": "[Desktop Entry\nName=Aa half\n"}.items():
-            with open(os.path.join(folder, f"{name}.desktop"), "w", encoding="utf-8",
-                      errors="surrogateescape") as file:
-                file.write(content)
-        with open(os.path.join(folder, "huge.desktop"), "wb") as file:
-            file.truncate(5 << 30)
-        os.mkfifo(os.path.join(folder, "pipe.desktop"))
-        os.symlink("loop.desktop", os.path.join(folder, "loop.desktop"))
-        os.symlink(".", os.path.join(folder, "again"))
-        window = self.open_settings(self.start_program(settings={"useAllApps": False}))
-        window.click("page tab", "Apps")
-        window.controls.find("check box", "Aa good one")
-        shown = [name for role, name in window.controls.all() if role == "list item"]
-        self.assertEqual(shown[0], "Aa good one")
-        for name in shown[1:]:
-            self.assertNotIn(name, ("Aa half", "nameless", "undecodable", "huge", "pipe", "loop"))
-
-
-class KillTest(SettingsCase):
-
-    def test_a_kill_at_any_moment_leaves_a_whole_file(self):
-        moment = random.Random(1)
-        stops = {round(stop / 10, 1) for stop in range(21)}
-        for _ in range(10):
-            program = self.start_program(settings={"useAllApps": False})
-            window = self.open_settings(program)
-            slider = window.controls.find("slider", "Delay before appearing")
-            self.hands.click(*window.slider_point(0))
-            window.wait_until_stored(appearanceDelay=0.0)
-            self.assertEqual(slider.value, 0.0)
-            for _ in range(moment.randrange(20, 50)):
-                self.hands.repeat("Right", 1)
-                self.hands.repeat("Left", 1)
-            program.kill()
-            stored = window.stored()
-            self.assertEqual(len(stored), 6)
-            self.assertIn(stored.pop("appearanceDelay"), stops)
-            self.assertEqual(stored, {
-                "allowedApps": ["com.apple.Notes"], "useAllApps": False,
-                "useKeyboardShortcut": False, "shortcutKeyCode": 3, "shortcutModifiers": 0x180100})
 
 
 class ScreenReaderTest(SettingsCase):

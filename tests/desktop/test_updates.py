@@ -3,7 +3,6 @@
 A second executable takes the place of the shipped one where there is a feed: the same objects, with
 the address of a server of ours and its authority in place of the build's own."""
 
-import json
 import os
 
 from gi.repository import GLib
@@ -75,32 +74,6 @@ class WithFeedTest(UpdateCase):
         return self.start_program(executable=ELSEWHERE,
                                   environment={**self.feed.environment, **environment})
 
-    def wait_for_daily_look(self, program):
-        before = self.feed.requests()
-        program.wait_until(lambda: self.feed.requests() > before, START_DELAY + 5.0,
-                           "the program looks by itself")
-
-    def test_a_version_that_the_user_skips_is_told_only_when_asked_for(self):
-        self.feed.publish("1.1", notes="<ul><li>It is <b>new</b></li></ul>")
-        program = self.start()
-        self.ask(program)
-        self.wait_for_answer(program, "Corvane Quillet 1.1 is available",
-                             "You have version 1.0.2.", "What is new")
-        self.press(program, "Skip This Version")
-        program.end()
-
-        with open(self.state_path(), encoding="utf-8") as file:
-            state = json.load(file)
-        self.assertEqual(state["skippedVersion"]["version"], "1.1")
-        del state["lastCheck"]  # As if a day had gone by.
-        with open(self.state_path(), "w", encoding="utf-8") as file:
-            json.dump(state, file)
-        again = self.start()
-        self.wait_for_daily_look(again)
-        wait.throughout(lambda: not self.notifications.count, 1.0, "nothing is told")
-        self.ask(again)
-        self.wait_for_answer(again, "Corvane Quillet 1.1 is available")
-
     def test_the_daily_look_tells_by_a_notification_and_leaves_the_keyboard_alone(self):
         note = self.open_note("A few words.")
         self.feed.publish("1.1")
@@ -118,43 +91,3 @@ class WithFeedTest(UpdateCase):
         self.wait_for_answer(program, "Corvane Quillet 1.1 is available")
         self.press(program, "Later")
         self.assertEqual(self.feed.requests(), 1)
-
-    def test_the_download_page_opens_in_the_browser_and_nothing_but_a_page(self):
-        folder = self.desktop.session.path("browser")
-        os.makedirs(folder, exist_ok=True)
-        opened = os.path.join(folder, "opened")
-        with open(os.path.join(folder, "xdg-open"), "w", encoding="utf-8") as script:
-            script.write(f'#!/bin/sh\necho "$1" >> {opened}\n')
-        os.chmod(script.name, 0o755)
-        self.feed.publish("1.1", page="https://quillet.invalid/download?a=1&amp;b=$(id)")
-        program = self.start(PATH=f"{folder}:{os.environ['PATH']}")
-        self.ask(program)
-        self.wait_for_answer(program, "Open Download Page")
-        self.press(program, "Open Download Page")
-        program.wait_until(lambda: os.path.exists(opened), 3.0, "the browser is asked")
-        with open(opened, encoding="utf-8") as file:
-            self.assertEqual(file.read(), "https://quillet.invalid/download?a=1&b=$(id)\n")
-
-        for page in ("javascript:alert(1)", "file:///etc/passwd"):
-            self.feed.publish("1.1", page=page)
-            self.ask(program)
-            self.wait_for_answer(program, "Later")
-            self.assertIsNone(Controls(self.desktop.accessibility, program.pid).shown(
-                "push button", "Open Download Page"))
-            self.press(program, "Later")
-
-    def test_it_answers_every_feed_and_no_feed_at_all(self):
-        program = self.start()
-        self.feed.publish("1.0.2")
-        self.ask(program)
-        self.wait_for_answer(program, "Corvane Quillet is up to date",
-                             "Version 1.0.2 is the newest one.")
-        self.feed.publish_text('<!DOCTYPE r [<!ENTITY a "a">]><rss>&a;</rss>')
-        self.ask(program)
-        self.wait_for_answer(
-            program, "Looking for a newer version failed",
-            "The update feed could not be read: document types are not accepted")
-        self.feed.close()
-        self.ask(program)
-        self.wait_for_answer(program, "The update feed could not be read: Connection refused")
-        self.press(program, "OK")

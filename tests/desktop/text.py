@@ -9,7 +9,7 @@ from bus_service import connect
 from windows import Rect
 
 CALL_LIMIT = 2000  # Milliseconds that one question may take.
-ON_SCREEN = 0
+ON_SCREEN, IN_WINDOW = 0, 1
 FOCUSED = 12  # Bit numbers of the states.
 SHOWING = 25
 MOST_NODES = 3000
@@ -21,7 +21,8 @@ _ACCESSIBLE = "org.a11y.atspi.Accessible"
 class AccessibilityBus:
     """The bus on which applications tell what they show."""
 
-    def __init__(self, session):
+    def __init__(self, session, windows):
+        self._windows = windows
         address = session.call("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress",
                                answer="(s)").unpack()[0]
         self._connection = connect(address)
@@ -58,6 +59,11 @@ class AccessibilityBus:
         """Where a node is on the screen, in pixels."""
         return Rect(*self.call(name, path, "org.a11y.atspi.Component", "GetExtents",
                                GLib.Variant("(u)", (ON_SCREEN,)))[0])
+
+    def window_of(self, name):
+        """Where the window in front of an application is on the screen, in pixels."""
+        pid = self._pid((name,))
+        return self._windows.frame(self._windows.active_of(pid) or self._windows.client_of(pid))
 
     def nodes_of(self, pid):
         """Everything that a process tells of, from the outside in."""
@@ -147,8 +153,17 @@ class Text:
         return self._ask("GetText", "(ii)", *selection)[0] if selection else ""
 
     def extents(self, start, end):
-        """The rectangle around a range, in pixels of the screen."""
-        return Rect(*self._ask("GetRangeExtents", "(iiu)", start, end, ON_SCREEN))
+        """The rectangle around a range on one line, in pixels of the screen."""
+        try:
+            return Rect(*self._ask("GetRangeExtents", "(iiu)", start, end, ON_SCREEN))
+        except GLib.Error as refusal:
+            if "NotSupported" not in refusal.message:
+                raise
+        # A toolkit that knows nothing of the screen, and of ranges less than of characters.
+        window = self._bus.window_of(self._node[0])
+        first, last = (Rect(*self._ask("GetCharacterExtents", "(iu)", offset, IN_WINDOW))
+                       for offset in (start, end - 1))
+        return Rect(window.x + first.x, window.y + first.y, last.right - first.x, first.height)
 
     def attributes(self, offset):
         """The attributes of the character at `offset`."""

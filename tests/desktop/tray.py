@@ -86,10 +86,6 @@ class Item:
         return self._tray.ask(self.name, self.path, "org.freedesktop.DBus.Properties", "Get",
                               GLib.Variant("(ss)", (_ITEM, name)))[0]
 
-    def icon_sizes(self):
-        """Width and height of each picture of the icon, in pixels."""
-        return [(width, height) for width, height, _ in self.property("IconPixmap")]
-
     def menu(self, limit=3.0):
         """The entries of the menu, from top to bottom."""
         _, (_, _, children) = self._menu_call("GetLayout", GLib.Variant(

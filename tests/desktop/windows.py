@@ -107,13 +107,22 @@ class Windows:
 
     def active_pid(self):
         """The process of the window that the window manager calls active, or None."""
+        return self._active()[1]
+
+    def active_of(self, pid):
+        """The active window, if it is that process's; or None."""
+        window, owner = self._active()
+        return window if owner == pid else None
+
+    def _active(self):
         for identifier in self._cardinals(self._root, "_NET_ACTIVE_WINDOW"):
             if identifier:
+                window = self._display.create_resource_object("window", identifier)
                 try:
-                    return self._pid(self._display.create_resource_object("window", identifier))
+                    return window, self._pid(window)
                 except error.XError:
                     pass  # It has just gone, and the window manager does not know it yet.
-        return None
+        return None, None
 
     def focused_pid(self):
         """The process whose window has the keyboard, or None."""

@@ -160,42 +160,6 @@ TEST_F(FeedbackSheetTest, ThePictureIsTakenWhenTheSwitchIsTurnedOnAndDroppedWhen
     EXPECT_FALSE(find("preview").isVisible() || find("awaited").isVisible());
 }
 
-TEST_F(FeedbackSheetTest, LatePicturesAreKeptButNotSentWithTheSwitchOff) {
-    open(server.endpoint("https"));
-    editor().setPlainText(QStringLiteral("Hallo"));
-    fakes.screenCapture.picture = picture({10, 10}, Qt::red);
-    screenshotSwitch().click();
-    sendAndWait();
-    EXPECT_TRUE(onlyRequest().contains(QLatin1String("json"))) << "not finished yet";
-    fakes.runLoop.advance(1.5);
-    screenshotSwitch().click();
-    screenshotSwitch().click(); // a second picture on its way
-    screenshotSwitch().click();
-    fakes.runLoop.finishBackgroundWork();
-    EXPECT_EQ(fakes.screenCapture.taken.size(), 2U);
-    EXPECT_TRUE(form->screenshotData.get().has_value());
-    EXPECT_FALSE(find("preview").isVisible());
-    QTest::mouseClick(&sendButton(), Qt::LeftButton);
-    // To the end of the last send, which otherwise outlives the form.
-    EXPECT_TRUE(QTest::qWaitFor([&] {
-        fakes.runLoop.advance(1.5);
-        return closed == 2;
-    }, 10'000));
-    EXPECT_TRUE(onlyRequest().contains(QLatin1String("json")));
-}
-
-TEST_F(FeedbackSheetTest, APictureThatCannotBeTakenIsAwaitedForEver) {
-    open(server.endpoint("https"));
-    screenshotSwitch().click();
-    fakes.runLoop.finishBackgroundWork();
-    EXPECT_EQ(form->screenshotData.get(), std::nullopt);
-    EXPECT_TRUE(find("awaited").isVisible());
-    for (const std::int64_t number : {std::int64_t(-1), std::int64_t(4294967296)}) {
-        fakes.screenCapture.keyWindow = number;
-        EXPECT_DEATH(form->erstelleScreenshot(), "window identifier");
-    }
-}
-
 TEST_F(FeedbackSheetTest, NothingOfAFormOutlivesItsReplacement) {
     open(server.endpoint("https"));
     fakes.screenCapture.picture = picture({10, 10}, Qt::red);
@@ -228,15 +192,6 @@ TEST_F(FeedbackSheetTest, TellsWhatGoesAlongAndHasItsSize) {
     EXPECT_FALSE(shows(QStringLiteral("Bereich")));
     open(server.endpoint("https"), QStringLiteral("Hauptfenster"));
     EXPECT_TRUE(shows(QStringLiteral("Bereich")) && shows(QStringLiteral("Hauptfenster")));
-}
-
-TEST(FormatBytes, RoundsToWholeKilobytesAndTenthsOfMegabytes) {
-    EXPECT_EQ(formatBytes(100), u"0 KB");
-    EXPECT_EQ(formatBytes(1536), u"2 KB");
-    EXPECT_EQ(formatBytes(1047552), u"1023 KB");
-    EXPECT_EQ(formatBytes(1048575), u"1024 KB");
-    EXPECT_EQ(formatBytes(1048576), u"1.0 MB");
-    EXPECT_EQ(formatBytes(std::int64_t(20) << 20), u"20.0 MB");
 }
 
 } // namespace feedback

@@ -16,15 +16,6 @@ QString header(const QJsonObject& request, const char* name) {
     return request[u"headers"][QLatin1String(name)].toString();
 }
 
-/// Everything that a picture may hold and a boundary or a line must not take for its own.
-QByteArray awkwardPicture() {
-    QByteArray picture("\x89PNG\r\n\x1a\n\r\n--\r\n----CQFeedback-\r\n\r\r\n\n");
-    for (int byte = 0; byte < 256; ++byte) {
-        picture.append(static_cast<char>(byte));
-    }
-    return picture.repeated(4000); // more than the client and the socket buffer at once
-}
-
 } // namespace
 
 TEST_F(Sending, WithoutPictureTheRecordIsJson) {
@@ -78,30 +69,6 @@ TEST_F(Sending, WithPictureTheRecordIsMultipartByteForByte) {
     expected.replace("--B", "--" + match.captured(1).toLatin1());
     EXPECT_EQ(bytes(request[u"body"]), expected);
     EXPECT_NE(header(requestFor(payload), "content-type"), type);
-}
-
-TEST_F(Sending, AStrictReaderFindsTheTextsAndThePicture) {
-    payload.text = QStringLiteral("\r\n\n ä 🏳️‍🌈\r");
-    for (const QByteArray& picture : {awkwardPicture(), QByteArray()}) {
-        payload.screenshotPNG = picture;
-        const QJsonObject request = requestFor(payload);
-        ASSERT_FALSE(request.contains(u"malformed"))
-            << request[u"malformed"].toString().toStdString();
-        const QJsonArray parts = request[u"parts"].toArray();
-        ASSERT_EQ(parts.size(), 7);
-        EXPECT_EQ(bytes(parts[0][u"data"]), payload.text.toUtf8());
-        EXPECT_TRUE(bytes(parts[6][u"data"]) == picture);
-    }
-}
-
-TEST_F(Sending, OneRecordTellsNothingOfAnother) {
-    const Answer answer{.header = QStringLiteral("Set-Cookie:who=anna")};
-    for (int turn = 0; turn < 2; ++turn) {
-        outcome(service(server.endpoint("https", answer)).send(payload));
-    }
-    const QJsonArray requests = server.requests();
-    ASSERT_EQ(requests.size(), 2);
-    EXPECT_TRUE(requests[1][u"headers"][u"cookie"].isUndefined());
 }
 
 } // namespace feedback

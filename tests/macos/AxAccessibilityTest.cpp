@@ -98,17 +98,6 @@ TEST_F(AxAccessibilityTest, ReadsTheFocusTheTextItsRangeAndTheRangesBounds) {
     EXPECT_EQ(world.questions.back().range->length, 3);
 }
 
-TEST_F(AxAccessibilityTest, TextsArriveUnitForUnit) {
-    const std::vector<std::u16string> texts{
-        u"",       u"\u00e9e\u0301",           u"\U0001F600",
-        u"\xD83D", std::u16string(u"a\0b", 3), std::u16string(100'000, u'x')};
-    for (const auto& text : texts) {
-        world.elements[field]["AXSelectedText"] = string(text);
-        EXPECT_EQ(look().text,
-                  QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size())));
-    }
-}
-
 TEST_F(AxAccessibilityTest, WhatFailsIsMissingOrIsOfAWrongTypeYieldsNothing) {
     struct Row {
         const char* attribute;

@@ -27,18 +27,4 @@ TEST(AppleFakesDeathTest, MisuseEndsTheProcess) {
     EXPECT_DEATH(CFStringGetLength(string), "after its release");
 }
 
-TEST(AppleFakes, ADictionaryOwnsWhatItHolds) {
-    const void* key = appleFake::newString(u"key");
-    const void* value = appleFake::newString(u"value");
-    const auto dictionary =
-        CFDictionaryCreate(kCFAllocatorDefault, &key, &value, 1, &kCFTypeDictionaryKeyCallBacks,
-                           &kCFTypeDictionaryValueCallBacks);
-    CFRelease(key);
-    CFRelease(value);
-    EXPECT_EQ(appleFake::valueOf(dictionary, CFSTR("key")), value);
-    EXPECT_EQ(appleFake::liveObjects(), 3);
-    CFRelease(dictionary);
-    EXPECT_EQ(appleFake::liveObjects(), 0);
-}
-
 } // namespace

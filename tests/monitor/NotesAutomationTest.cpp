@@ -96,13 +96,6 @@ TEST_F(NotesAutomationTest, WithoutATargetOneLineIsLoggedAndNothingElseHappens) 
     EXPECT_TRUE(platform.colorPanel.modes.empty());
 }
 
-TEST_F(NotesAutomationDeathTest, AKeyOutside16BitsStopsTheProcess) {
-    EXPECT_DEATH(NotesAutomation::simulateKeyboardShortcut(65536, 0), "key code");
-    EXPECT_DEATH(NotesAutomation::simulateKeyboardShortcut(-1, 0), "key code");
-    NotesAutomation::simulateKeyboardShortcut(65535, 0);
-    EXPECT_EQ(platform.keyboardEvents.posted.size(), 2U);
-}
-
 TEST_F(NotesAutomationTest, OpensTheTargetsColoursAndPlacesTheOwnPanelLater) {
     NotesAutomation::showColorPicker();
     EXPECT_THAT(platform.record,

@@ -188,14 +188,6 @@ TEST_F(NotesMonitorTest, WhatAPollFindsDecidesWhetherTheBarStaysOrGoes) {
     }
 }
 
-TEST_F(NotesMonitorTest, TwoMissingIdentifiersCountAsTheProgramItself) {
-    platform.systemInfo.identifier.reset();
-    selectAndShow();
-    front(2, std::nullopt);
-    pass(1);
-    EXPECT_TRUE(reports.empty());
-}
-
 TEST_F(NotesMonitorTest, WithoutBoundsTheBarGoesToThePointer) {
     platform.screens.pointer = {500, 300};
     settings.appearanceDelay = 0.0;

@@ -33,15 +33,6 @@ std::vector<int> row(const QImage& mask, int y) {
     return {line, line + mask.width()};
 }
 
-int coverage(const QImage& mask) {
-    int sum = 0;
-    for (int y = 0; y < mask.height(); ++y) {
-        const auto pixels = row(mask, y);
-        sum = std::accumulate(pixels.begin(), pixels.end(), sum);
-    }
-    return sum;
-}
-
 /// The pixels that are covered by more than a half: without the fringes of strokes.
 QRect coveredRect(const QImage& mask) {
     QRect covered;
@@ -104,26 +95,6 @@ TEST(DrawnSymbols, AreDrawnInsideTheirBoxAtEveryRatioAndWeight) {
     }
 }
 
-TEST(DrawnSymbols, StandInTheMiddleOfTheirBox) {
-    DrawnSymbols symbols;
-    for (const QString& name : drawnNames()) {
-        const QImage mask = symbols.mask(name, barStyle, 4);
-        const QRectF covered = coveredRect(mask);
-        const double offset = (covered.center().x() - QRectF(mask.rect()).center().x()) / 4;
-        EXPECT_LE(std::abs(offset), 0.75) << qPrintable(name);
-    }
-}
-
-TEST(DrawnSymbols, LettersStandOnOneBaseline) {
-    DrawnSymbols symbols;
-    const int baseline = coveredRect(symbols.mask(u"textformat"_s, barStyle, 2)).bottom();
-    for (const QString& name : {u"textformat.size"_s, u"textformat.size.smaller"_s,
-                                u"textformat.size.larger"_s, u"italic"_s}) {
-        EXPECT_EQ(coveredRect(symbols.mask(name, barStyle, 2)).bottom(), baseline)
-            << qPrintable(name);
-    }
-}
-
 TEST(DrawnSymbols, StrokesOfTheBarBeginOnAPixel) {
     DrawnSymbols symbols;
     const auto columnInTheMiddle = [](const QImage& mask) {
@@ -144,21 +115,6 @@ TEST(DrawnSymbols, StrokesOfTheBarBeginOnAPixel) {
     EXPECT_EQ(twice, std::vector<int>(3, 255));
 }
 
-TEST(DrawnSymbols, HeavierWeightsCoverMore) {
-    DrawnSymbols symbols;
-    for (const QString& name : drawnNames()) {
-        if (name.endsWith(u".fill")) {
-            continue; // nothing of these is a stroke
-        }
-        int lighter = 0;
-        for (const SymbolWeight weight : weights) {
-            const int covered = coverage(symbols.mask(name, {14, weight}, 3));
-            EXPECT_GT(covered, lighter) << qPrintable(name);
-            lighter = covered;
-        }
-    }
-}
-
 TEST(DrawnSymbols, PointsTimesRatioMakesThePixelsAndEachIsRenderedOnce) {
     DrawnSymbols symbols;
     const QImage twice = symbols.mask(u"link"_s, {14, SymbolWeight::Bold}, 2);
@@ -172,15 +128,3 @@ TEST(DrawnSymbols, PointsTimesRatioMakesThePixelsAndEachIsRenderedOnce) {
     EXPECT_EQ(symbols.mask(u"chevron.down"_s, {8, SymbolWeight::Bold}, 1).size(), QSize(8, 10));
 }
 
-TEST(DrawnSymbols, AreNullForWhatCannotBeDrawn) {
-    DrawnSymbols symbols;
-    constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-    for (const QString& name : {QString(), u"Bold"_s, u"bold.svg"_s, u"textformat.size."_s}) {
-        EXPECT_TRUE(symbols.mask(name, barStyle, 1).isNull()) << qPrintable(name);
-    }
-    for (const double bad : {0.0, -14.0, 1e9, notANumber}) {
-        EXPECT_TRUE(symbols.mask(u"bold"_s, {bad, SymbolWeight::Medium}, 1).isNull()) << bad;
-        EXPECT_TRUE(symbols.mask(u"bold"_s, barStyle, bad).isNull()) << bad;
-    }
-    EXPECT_FALSE(symbols.mask(u"bold"_s, {0.1, SymbolWeight::Medium}, 1).isNull());
-}

@@ -54,15 +54,6 @@ TEST_F(ThemeApplicationIconsTest, NamesAreLookedUpInTheThemeWithAndWithoutASuffi
     EXPECT_EQ(icons.picture({QStringLiteral("notes")}, 24, 1).size(), QSize(24, 24));
 }
 
-TEST_F(ThemeApplicationIconsTest, AFileIsStretchedToTheSquareAndReadOnce) {
-    const QString path = folder.filePath(QStringLiteral("wide.png"));
-    save(path, QSize(300, 20), Qt::blue);
-    EXPECT_EQ(icons.picture({path}, 24, 1.5).size(), QSize(36, 36));
-    ASSERT_TRUE(QFile::remove(path));
-    EXPECT_EQ(icons.picture({path}, 24, 1.5).pixelColor(1, 34), QColor(Qt::blue));
-    EXPECT_TRUE(icons.picture({path}, 24, 1).isNull());
-}
-
 TEST_F(ThemeApplicationIconsTest, WhatIsNoPictureIsNull) {
     QFile damaged(folder.filePath(QStringLiteral("damaged.png")));
     ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));

@@ -130,16 +130,6 @@ TEST_F(AppsSettings, AreLookedForEachTimeTheWindowIsShown) {
     EXPECT_TRUE(list().isVisible()); // the tab that was open still is
 }
 
-TEST_F(AppsSettings, AScanMayEndAfterTheWindowIsGone) {
-    install(QStringLiteral("Mail"));
-    openList();
-    window_->close();
-    window_->show();
-    window_.reset();
-    fake_.runLoop.finishBackgroundWork();
-    EXPECT_EQ(fake_.userDefaults.writes.back(), QStringLiteral("useAllApps"));
-}
-
 TEST_F(AppsSettings, OfFiveThousandOnlyThoseInSightHaveRows) {
     for (int number = 0; number < 5000; ++number) {
         install(QStringLiteral("App %1").arg(number, 4, 10, QLatin1Char('0')));
@@ -168,37 +158,3 @@ TEST_F(AppsSettings, OfFiveThousandOnlyThoseInSightHaveRows) {
     EXPECT_EQ(rows().front(), "App 0012");
 }
 
-TEST_F(AppsSettings, StandWhereTheyBelong) {
-    install(QStringLiteral("Mail"));
-    openList();
-    constexpr int padding = 16;
-    const QRect page(0, 0, 500, 450);
-    const QRect text = place(explanation);
-    const QRect field = place(search);
-    const QRect all(list().mapTo(window_.get(), QPoint()), list().size());
-    const QRect count = place(QStringLiteral("1 app(s) selected"));
-    for (const QRect& part : {place(everywhere), text, field, count}) {
-        EXPECT_EQ(part.left(), padding);
-    }
-    EXPECT_EQ(field.right(), page.right() - padding);
-    EXPECT_EQ(all.left(), page.left());
-    EXPECT_EQ(all.right(), page.right());
-    EXPECT_EQ(field.top(), text.bottom() + 1 + padding);
-    EXPECT_EQ(all.top(), field.bottom() + 1 + padding);
-    EXPECT_EQ(count.top(), all.bottom() + 1 + padding);
-    EXPECT_EQ(count.bottom(), page.bottom() - padding);
-    EXPECT_EQ(place(QStringLiteral("icon")).size(), QSize(24, 24));
-}
-
-TEST_F(AppsSettings, AnApplicationWithoutAPictureHasTheSymbolOfAnyApplication) {
-    fake_.applicationIcons.found = false;
-    install(QStringLiteral("Pictureless"));
-    openList();
-    // Pictures are fetched one by one, after the rows were drawn.
-    EXPECT_TRUE(QTest::qWaitFor([&] {
-        const auto parts = part(QStringLiteral("icon")).findChildren<QWidget*>();
-        return !parts.isEmpty() && parts.front()->isVisible();
-    }));
-    EXPECT_EQ(fake_.applicationIcons.asked,
-              std::vector{QStringLiteral("/Applications/Pictureless.app")});
-}

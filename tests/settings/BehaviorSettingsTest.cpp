@@ -116,16 +116,3 @@ TEST_F(Settings, TheGeneralTabSwitchesTheLoginItemAndAsksForTheFeedbackForm) {
     EXPECT_EQ(fake_.userDefaults.writes.size(), writes);
 }
 
-TEST_F(Settings, TheRowsStandWhereTheyBelong) {
-    open();
-    const QRect picker = place(QStringLiteral("Show formatting bar"));
-    const QRect delay = place(QStringLiteral("delay"));
-    const QRect track = place(slider);
-    const QRect instant = place(QStringLiteral("Instant"));
-    EXPECT_EQ(delay.left(), picker.left() + 20);
-    EXPECT_EQ(track.left(), delay.left());
-    EXPECT_EQ(track.top(), delay.bottom() + 1 + 8);
-    EXPECT_EQ(instant.top(), track.bottom() + 1 + 8);
-    EXPECT_EQ(instant.left(), delay.left());
-    EXPECT_EQ(place(QStringLiteral("2 seconds")).right(), track.right());
-}

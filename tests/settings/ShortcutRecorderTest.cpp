@@ -142,19 +142,6 @@ TEST_F(ShortcutRecorder, ASecondClickCallsItOff) {
     EXPECT_EQ(fake_.userDefaults.writes.size(), writes);
 }
 
-TEST_F(ShortcutRecorder, GoesOnRecordingAfterTheModeWasSwitchedAwayAndBack) {
-    click(recorder);
-    click(QStringLiteral("Automatically on text selection"));
-    EXPECT_FALSE(shows(recorder));
-    press({Qt::Key_A, Qt::ControlModifier, aKey});
-    EXPECT_EQ(store_.shortcutKeyCode, 3);
-    click(QStringLiteral("With keyboard shortcut"));
-    ASSERT_TRUE(shows(prompt));
-    press({Qt::Key_A, Qt::ControlModifier, aKey});
-    EXPECT_EQ(store_.shortcutKeyCode, 0);
-    EXPECT_TRUE(shows(QStringLiteral("⌘A")));
-}
-
 TEST_F(ShortcutRecorder, IsReachedAndUsedWithoutAPointer) {
     click(QStringLiteral("Automatically on text selection"));
     openTab(QStringLiteral("General"));
@@ -173,44 +160,3 @@ TEST_F(ShortcutRecorder, IsReachedAndUsedWithoutAPointer) {
     EXPECT_TRUE(shows(prompt));
 }
 
-TEST_F(ShortcutRecorder, HasTheAccentWhileRecording) {
-    using ui::Color;
-    const auto shown = [&](Color ground, ui::Tint tint) {
-        QImage image(1, 1, QImage::Format_ARGB32);
-        image.fill(ui::color({ground}, window_->palette()));
-        QPainter(&image).fillRect(0, 0, 1, 1, ui::color(tint, window_->palette()));
-        return image.pixelColor(0, 0);
-    };
-    const auto isLike = [](const QColor& seen, const QColor& wanted) {
-        return std::abs(seen.red() - wanted.red()) <= 2 &&
-               std::abs(seen.green() - wanted.green()) <= 2 &&
-               std::abs(seen.blue() - wanted.blue()) <= 2;
-    };
-    const int middle = part(recorder).height() / 2;
-    const QPoint edge(0, middle);
-    const QPoint inside(4, middle);
-    const auto looksIdle = [&] {
-        return isLike(pixel(inside), shown(Color::ControlBackground, {})) &&
-               isLike(pixel(edge), shown(Color::ControlBackground, {Color::Separator}));
-    };
-    EXPECT_TRUE(looksIdle());
-    click(recorder);
-    EXPECT_TRUE(isLike(pixel(inside), shown(Color::WindowBackground, {Color::Accent, 0.2})));
-    EXPECT_TRUE(isLike(pixel(edge), shown(Color::WindowBackground, {Color::Accent})));
-    click(recorder);
-    EXPECT_TRUE(looksIdle());
-}
-
-TEST_F(ShortcutRecorder, IsAsLargeAsItsTextWithPaddingAndKeepsTheKeysViewUnseen) {
-    const QRect button = place(recorder);
-    const QRect text = place(QStringLiteral("⌥⌘F"));
-    EXPECT_EQ(button.width(), 124);
-    EXPECT_EQ(button.height(), text.height() + 12);
-    EXPECT_EQ(button.center(), text.center());
-    const auto children = part(recorder).findChildren<QWidget*>();
-    const auto view = std::ranges::find_if(children, [](const QWidget* widget) {
-        return dynamic_cast<const settings::ShortcutRecorderNSView*>(widget) != nullptr;
-    });
-    ASSERT_NE(view, children.end());
-    EXPECT_EQ((*view)->size(), QSize(0, 0));
-}

@@ -74,7 +74,3 @@ TEST_F(SlashMenu, TheHighlightStopsAtBothEndsAndRestsWhileNothingMatches) {
     EXPECT_EQ(model.selectedIndex.get(), 10);
 }
 
-TEST_F(SlashMenu, ANegativeHighlightIsAProgrammingError) {
-    model.selectedIndex = -1;
-    EXPECT_DEATH(model.selectCurrent(), "negative position");
-}

@@ -88,7 +88,7 @@ TEST_F(SlashMenuView, TheHighlightedRowIsWhiteOnTheAccent) {
     const auto ground = [&](SlashCommand command) {
         return at(place(*row(command)).center() + QPoint(0, -18));
     };
-    const QColor accent = color(Color::AccentBehindText);
+    const QColor accent = color(Color::Accent);
     const QColor window = color(Color::WindowBackground);
     EXPECT_TRUE(alike(ground(SlashCommand::heading2), accent));
     EXPECT_TRUE(alike(ground(SlashCommand::heading1), window));
@@ -119,4 +119,3 @@ TEST_F(SlashMenuView, TheHighlightedRowIsWhiteOnTheAccent) {
             alike(searched.pixelColor(place(*row(command)).center() + QPoint(0, -18)), window));
     }
 }
-

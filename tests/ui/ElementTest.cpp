@@ -65,17 +65,6 @@ TEST_F(Elements, ModifiersWorkFromTheInsideOut) {
     EXPECT_EQ(QRect(symbol->mapTo(&host, QPoint()), symbol->size()), QRect(25, 25, 10, 10));
 }
 
-TEST_F(Elements, AStackKeepsItsChildrenTogetherInTheMiddleOfAFrame) {
-    ui::HostingView host(
-        ui::hstack({.spacing = 2}, ui::symbol(QStringLiteral("a"), {.pointSize = 14}),
-                   ui::symbol(QStringLiteral("b"), {.pointSize = 8}) | ui::identifier(inner)) |
-        ui::frame({.width = 40, .height = 26}));
-    host.resize(40, 26);
-    host.grab();
-    const auto* second = host.findChild<QWidget*>(inner);
-    EXPECT_EQ(second->mapTo(&host, QPoint()), QPoint(8 + 14 + 2, 9));
-}
-
 TEST_F(Elements, ASpacerTakesWhatIsLeftAndADividerFillsTheStack) {
     ui::HostingView host(
         ui::vstack(
@@ -90,18 +79,6 @@ TEST_F(Elements, ASpacerTakesWhatIsLeftAndADividerFillsTheStack) {
     const auto* line = host.findChild<QWidget*>(QStringLiteral("line"));
     EXPECT_EQ(symbol->mapTo(&host, QPoint()), QPoint(100 - 8 - 9, 8));
     EXPECT_EQ(QRect(line->mapTo(&host, QPoint()), line->size()), QRect(8, 21, 84, 1));
-}
-
-TEST_F(Elements, AHostCutsOffEvenlyWhatIsLargerAndNeverGrows) {
-    ui::HostingView host(ui::spacer() | ui::frame({.width = 640, .height = 38}) |
-                         ui::identifier(inner));
-    host.resize(590, 44);
-    host.grab(); // a hidden widget learns of its size when it is drawn
-    EXPECT_EQ(host.findChild<QWidget*>(inner)->geometry(), QRect(-25, 3, 640, 38));
-    EXPECT_EQ(host.minimumSizeHint().width(), -1);
-    host.resize(660, 44);
-    host.grab();
-    EXPECT_EQ(host.findChild<QWidget*>(inner)->geometry(), QRect(10, 3, 640, 38));
 }
 
 TEST_F(Elements, LabelsFollowThePalettePaleWhilePressedAndNameTheirButtonsForEveryone) {
@@ -150,25 +127,6 @@ TEST_F(Elements, HoverEndsWhenTheWindowVanishesUnderThePointer) {
     QTest::mouseMove(host.windowHandle(), {50, 20});
     host.hide();
     EXPECT_FALSE(isHovered->get());
-}
-
-TEST_F(Elements, TextWrapsOnlyWhereItHasLessRoomThanItNeeds) {
-    const auto lines = [](const QString& words, double size, auto width) {
-        const ui::Element element = ui::text(words, {.pointSize = size, .wraps = true});
-        const QWidget& widget = element.widget();
-        const int height = widget.heightForWidth(width(widget));
-        return qRound(double(height) / widget.fontMetrics().lineSpacing());
-    };
-    const auto own = [](const QWidget& widget) { return widget.sizeHint().width(); };
-    for (double size = 10; size < 20; ++size) {
-        for (const QString& words : {QStringLiteral("Screenshot wird erzeugt …"),
-                                     QStringLiteral("ill ill"), QStringLiteral("WAV To A. T")}) {
-            EXPECT_EQ(lines(words, size, own), 1) << words.toStdString() << " at " << size;
-        }
-    }
-    const auto narrow = [](const QWidget& widget) { return widget.sizeHint().width() / 3; };
-    EXPECT_GE(lines(QString(60, u'x'), 13, narrow), 3) << "a word longer than a line";
-    EXPECT_EQ(lines(QStringLiteral("a\r\nb\nc"), 13, own), 3);
 }
 
 } // namespace

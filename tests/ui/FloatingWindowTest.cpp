@@ -37,26 +37,4 @@ TEST_F(FloatingWindows, CutTheirOwnCornersFromWhateverTheyShow) {
     EXPECT_EQ(alphaAt(20, 0), 255);
 }
 
-TEST_F(FloatingWindows, AreOpaqueAndTakeTheShapeOfWhatTheyShowWithoutACompositor) {
-    fake_.windowServer.translucency = false;
-    window_.setFrame({0, 0, 80, 24});
-    window_.orderFront();
-    const QRegion shape = window_.mask();
-    EXPECT_EQ(shape.boundingRect(), QRect(10, 2, 60, 20));
-    EXPECT_FALSE(shape.contains(QPoint(10, 2)));
-    EXPECT_TRUE(shape.contains(QPoint(18, 2)));
-    // Every pixel that is left has a colour: none shows the black of an empty picture.
-    const QImage picture = window_.grab().toImage();
-    EXPECT_EQ(picture.pixelColor(13, 3).alpha(), 255);
-    EXPECT_GT(picture.pixelColor(11, 4).red(), 128);
-
-    window_.setFrame({0, 0, 100, 30});
-    EXPECT_EQ(window_.mask().boundingRect(), QRect(20, 5, 60, 20));
-
-    fake_.windowServer.translucency = true;
-    window_.orderFront();
-    EXPECT_TRUE(window_.mask().isEmpty());
-    EXPECT_EQ(alphaAt(0, 0), 0);
-}
-
 } // namespace

@@ -57,26 +57,6 @@ TEST(Theme, TheAccentIsReadableAsTextOnATintOfItself) {
     }
 }
 
-TEST(Theme, MaterialsAreTranslucentAndKeepTheDesktopsSide) {
-    const QColor dark = ui::color({Color::HudMaterial}, palette(0x202020, 0xffffff));
-    const QColor light = ui::color({Color::HudMaterial}, palette(0xeeeeee, 0x000000));
-    EXPECT_LT(dark.lightnessF(), 0.3);
-    EXPECT_GT(light.lightnessF(), 0.9);
-    EXPECT_LT(dark.alpha(), 255);
-    EXPECT_GT(dark.alpha(), 240);
-}
-
-TEST(Theme, TheAccentIsThatOfAnActiveWindowThinnedByItsOpacity) {
-    QPalette desktop;
-    desktop.setColor(QPalette::Active, QPalette::Highlight, QColor(0xff3366cc));
-    desktop.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0xff888888));
-    desktop.setCurrentColorGroup(QPalette::Inactive);
-    const QColor accent = ui::color({Color::Accent, 0.2}, desktop);
-    EXPECT_EQ(accent.rgb(), 0xff3366cc);
-    EXPECT_NEAR(accent.alphaF(), 0.2, 0.01);
-    EXPECT_EQ(ui::color({}, desktop).alpha(), 0);
-}
-
 TEST(Theme, ThinWhiteTextCanBeReadOnTheAccentBehindItWhateverTheDesktopsAccent) {
     QPalette desktop;
     for (const QRgb accent : {0xff308cc6U, 0xff3b95ffU, 0xfff5c211U, 0xffffffffU, 0xff1a2f50U}) {

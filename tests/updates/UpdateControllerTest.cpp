@@ -113,25 +113,4 @@ TEST_F(UpdateControllerTest, tells_once_what_the_user_does_however_it_is_done) {
     }
 }
 
-TEST_F(UpdateControllerTest, shows_notes_as_they_are_written_and_scrolls_them_by_keys) {
-    present(update);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
-    auto* notes = window().findChild<QPlainTextEdit*>();
-    ASSERT_NE(notes, nullptr);
-    EXPECT_EQ(notes->toPlainText(), update.notes);
-    notes->setFocus();
-    QTest::keyClicks(notes, QStringLiteral("x"));
-    EXPECT_EQ(notes->toPlainText(), update.notes);
-    QTest::keyClick(notes, Qt::Key_PageDown);
-    EXPECT_GT(notes->verticalScrollBar()->value(), 0);
-}
-
-TEST_F(UpdateControllerTest, can_present_from_within_a_choice) {
-    controller.present(platform::CheckingForUpdates{},
-                       [this](UpdateChoice) { present(platform::UpdatesComeWithPackages{}); });
-    click("Cancel");
-    EXPECT_TRUE(window().isVisible());
-    EXPECT_EQ(said("headline"), QStringLiteral("Updates come with the system's packages"));
-}
-
 } // namespace

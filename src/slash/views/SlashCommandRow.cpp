@@ -47,7 +47,7 @@ ui::Element SlashCommandRow::body() const {
     return ui::stack(Qt::Horizontal, {.spacing = 12}, std::move(parts)) |
            ui::padding({.horizontal = 12, .vertical = 8}) |
            ui::background(ui::RoundedRectangle{8},
-                          ui::fill(ink(Color::AccentBehindText, Color::Clear))) |
+                          ui::fill(ink(Color::Accent, Color::Clear))) |
            ui::redrawOn(isSelected);
 }
 

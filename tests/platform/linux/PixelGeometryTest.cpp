@@ -58,13 +58,6 @@ TEST(PixelGeometry, ThePrimaryScreenIsTheOriginWhereverItStands) {
     EXPECT_EQ(geometry.pixels({-990, 780, 100, 10}), (PixelRect{10, 10, 100, 10}));
 }
 
-TEST(PixelGeometry, WhatSpansTwoScreensIsScaledLikeTheOneWithItsCentre) {
-    const PixelGeometry geometry(
-        {screenAt({0, 0, 1000, 1000}, 2, true), screenAt({1000, 0, 1000, 1000}, 1)});
-    EXPECT_EQ(geometry.topLeftPoints({900, 0, 100, 20}).width, 50);
-    EXPECT_EQ(geometry.topLeftPoints({960, 0, 100, 20}).width, 100);
-}
-
 TEST(PixelGeometry, NumbersThatAreNoneAndHugeOnesStayWithinX) {
     constexpr double nan = std::numeric_limits<double>::quiet_NaN();
     constexpr double infinite = std::numeric_limits<double>::infinity();
@@ -76,15 +69,6 @@ TEST(PixelGeometry, NumbersThatAreNoneAndHugeOnesStayWithinX) {
     constexpr int farRight = std::numeric_limits<int>::max();
     expectRect(geometry.topLeftPoints({farRight, 0, farRight, 2}),
                {farRight / 2.0, 0, farRight / 2.0, 1});
-}
-
-TEST(PixelGeometry, WithoutAScreenPixelsAndPointsAreTheSame) {
-    const PixelGeometry geometry;
-    expectRect(geometry.topLeftPoints({10, 20, 30, 40}), {10, 20, 30, 40});
-    EXPECT_EQ(geometry.pixels(geometry.globalPoints({10, 20, 30, 40})),
-              (PixelRect{10, 20, 30, 40}));
-    EXPECT_EQ(geometry.screenNearest({1, 1}), nullptr);
-    EXPECT_EQ(geometry.primaryScreen(), nullptr);
 }
 
 } // namespace platform

@@ -105,6 +105,9 @@ std::optional<PixelRect> common(const PixelRect& a, const PixelRect& b) {
 
 std::optional<PixelRect> BoundsReader::read(const std::vector<TextSpan>& spans,
                                             ProcessIdentifier process) {
+    if (spans.empty()) {
+        return std::nullopt;
+    }
     const auto pieces = piecesOf(spans);
     auto relativeTo = Coordinates::Screen;
     auto replies = inquiry_.askAll(rangesOnScreen(pieces));

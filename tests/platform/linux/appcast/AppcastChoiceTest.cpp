@@ -1,5 +1,6 @@
 #include "platform/linux/appcast/AppcastChoice.h"
 
+#include <QTimeZone>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;

@@ -72,15 +72,6 @@ TEST_F(PollingTest, WithoutAnyEventItIsReadAgainAfterAWhile) {
     EXPECT_EQ(look().text, u"two"_s);
 }
 
-TEST_F(PollingTest, EventsWithNonsenseInThem) {
-    showText(u"one"_s);
-    start();
-    look();
-    send(u"Object"_s, u"StateChanged"_s, u"yes"_s);
-    EXPECT_TRUE(eventually([this] { return look().calls > 3; }));
-    EXPECT_EQ(look().text, u"one"_s);
-}
-
 TEST_F(PollingTest, AFocusedObjectThatVanishesIsLookedForAnew) {
     showText(u"one"_s);
     start();
@@ -151,17 +142,6 @@ TEST_F(PollingTest, AnApplicationThatQuitsAndItsSuccessor) {
     showText(u"next"_s);
     desktop.startApplication();
     EXPECT_TRUE(eventually([this] { return look().text == u"next"_s; }));
-}
-
-TEST_F(PollingTest, WhatWasNotGivenOutHereIsRefused) {
-    showText(u"one"_s);
-    start();
-    EXPECT_EQ(accessibility->focusedElement(nullptr), nullptr);
-    const auto stranger = accessibility->applicationElement(1);
-    EXPECT_EQ(accessibility->focusedElement(stranger), nullptr);
-    EXPECT_EQ(accessibility->selectedText(stranger), std::nullopt);
-    EXPECT_EQ(accessibility->selectedTextRange(nullptr), nullptr);
-    EXPECT_EQ(accessibility->boundsForRange(stranger, nullptr), std::nullopt);
 }
 
 TEST_F(PollingTest, ThePermissionIsAskedForOnceAndWrittenOnlyAfterAYes) {

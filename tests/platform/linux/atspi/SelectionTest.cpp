@@ -114,11 +114,4 @@ TEST_F(SelectionTest, WrongAnswersYieldNothing) {
     }
 }
 
-TEST_F(SelectionTest, ASelectionThatIsNoneIsSkipped) {
-    EXPECT_EQ(textOf(focusedText(u"one"_s, {{-1, -1}})), QString());
-    auto object = focusedText(u"one"_s, {{0, 3}});
-    object.misbehaviours[u"GetNSelections"_s] = fakes::answering({-7});
-    EXPECT_EQ(textOf(object), QString());
-}
-
 } // namespace

@@ -54,30 +54,6 @@ TEST_F(DesktopApplicationBundlesTest, ListsWhatTheDesktopLists) {
     }
 }
 
-TEST_F(DesktopApplicationBundlesTest, WhatIsNoEntryIsSkipped) {
-    const auto at = [&](const QByteArray& contents) {
-        return bundles.bundle(write(system, u"a.desktop"_s, contents));
-    };
-    EXPECT_FALSE(at(""));
-    EXPECT_FALSE(at("Type=Application\nName=No group\n"));
-    EXPECT_FALSE(at("[Desktop Entry]\nType=Link\nName=A link\n"));
-    EXPECT_FALSE(at("[Desktop Entry]\nName=No type\n"));
-    EXPECT_FALSE(at(QByteArray(3 << 20, 'x') + "\n[Desktop Entry]\nType=Application\nName=Long\n"));
-    // Listed, but without the name that it would need.
-    EXPECT_EQ(at("[Desktop Entry]\nType=Application\n")->name, std::nullopt);
-    EXPECT_EQ(at("[Desktop Entry]\nType=Application\nName=\xff\xfe\n")->name, std::nullopt);
-
-    QDir().mkpath(system + u"/folder.desktop"_s);
-    QFile::link(u"loop.desktop"_s, system + u"/loop.desktop"_s);
-    ASSERT_EQ(mkfifo(qPrintable(system + u"/pipe.desktop"_s), 0600), 0);
-    for (const char* name : {"folder", "loop", "pipe", "missing"}) {
-        const QString path = system + QLatin1Char('/') + QLatin1String(name) + u".desktop"_s;
-        EXPECT_FALSE(bundles.bundle(path)) << name;
-        EXPECT_FALSE(bundles.iconForFile(path)) << name;
-    }
-    EXPECT_FALSE(bundles.bundle(u".desktop"_s));
-}
-
 TEST_F(DesktopApplicationBundlesTest, FoldersOfTheSystemComeFirstAndAreReadOneLevelDeep) {
     EXPECT_EQ(bundles.folders(), (QStringList{local, system, user}));
     entry(system, "");
@@ -109,13 +85,3 @@ TEST_F(DesktopApplicationBundlesTest, AnEntryThatIsHiddenHidesThoseThatCountLess
     EXPECT_TRUE(bundles.bundle(entry(user, "")));
 }
 
-TEST_F(DesktopApplicationBundlesTest, AnIconIsANameOrAPath) {
-    const QString notes = entry(system, "Icon=notes\n");
-    const QString mail = entry(system, "Icon=/usr/share/mail.png\n", u"mail.desktop"_s);
-    ASSERT_TRUE(bundles.bundle(notes));
-    ASSERT_TRUE(bundles.bundle(mail));
-    EXPECT_EQ(bundles.iconForFile(notes)->nameOrPath, u"notes"_s);
-    EXPECT_EQ(bundles.iconForFile(mail)->nameOrPath, u"/usr/share/mail.png"_s);
-    ASSERT_TRUE(bundles.bundle(entry(system, "")));
-    EXPECT_EQ(bundles.iconForFile(notes), std::nullopt);
-}

@@ -68,36 +68,4 @@ TEST_F(DesktopEntryIndexTest, ReadsAgainWhenAFolderChangedAndAnswersMeanwhile) {
     EXPECT_FALSE(knows("mail"));
 }
 
-TEST_F(DesktopEntryIndexTest, WhoCannotWaitForTheMainThreadReadsAtOnce) {
-    install(u"notes.desktop"_s);
-    EXPECT_NE(index_.wait()->withId(u"notes"_s), nullptr);
-    EXPECT_EQ(index_.current(), nullptr);
-}
-
-TEST_F(DesktopEntryIndexTest, AReadThatEndsAfterTheIndexIsGoneIsDropped) {
-    {
-        DesktopEntryIndex gone(runLoop_, {folder_.path({})}, {});
-        gone.current();
-    }
-    runLoop_.finishBackgroundWork();
-    EXPECT_EQ(index_.current(), nullptr);
-}
-
-TEST(ApplicationFolders, FollowTheEnvironmentAndItsDefaults) {
-    const QByteArray dataFolders = qgetenv("XDG_DATA_DIRS");
-    const QByteArray dataHome = qgetenv("XDG_DATA_HOME");
-    qputenv("XDG_DATA_DIRS", "/opt/share/:relative:/usr/share:/opt/share");
-    qputenv("XDG_DATA_HOME", "relative");
-    const auto folders = ApplicationFolders::fromEnvironment();
-    EXPECT_EQ(folders.system,
-              (QStringList{u"/opt/share/applications"_s, u"/usr/share/applications"_s}));
-    EXPECT_EQ(folders.user, QDir::homePath() + u"/.local/share/applications"_s);
-    EXPECT_EQ(folders.byPrecedence().first(), folders.user);
-    qputenv("XDG_DATA_DIRS", "");
-    EXPECT_EQ(ApplicationFolders::fromEnvironment().system.first(),
-              u"/usr/local/share/applications"_s);
-    qputenv("XDG_DATA_DIRS", dataFolders);
-    qputenv("XDG_DATA_HOME", dataHome);
-}
-
 } // namespace platform

@@ -80,21 +80,6 @@ TEST_F(JsonUserDefaultsTest, MakesItsFolderAndKeepsWhatItDoesNotKnow) {
               R"({ "later version": { "deep": [ 1, null ] }, "key": 2.0 })");
 }
 
-TEST_F(JsonUserDefaultsTest, TouchesTheDiskOnlyWhenTheFileWouldChange) {
-    JsonUserDefaults(path).set(key, true);
-    const ino_t first = inode();
-    JsonUserDefaults defaults(path);
-    defaults.set(key, true);
-    EXPECT_EQ(inode(), first) << "every replacement is a new file";
-
-    folder.write(settings, "{}");
-    defaults.set(key, true);
-    EXPECT_THAT(folder.read(settings).toStdString(), HasSubstr("true")) << "it had changed";
-    QFile::remove(path);
-    defaults.set(key, true);
-    EXPECT_THAT(folder.read(settings).toStdString(), HasSubstr("true")) << "it was gone";
-}
-
 TEST_F(JsonUserDefaultsTest, ADamagedFileIsSetAsideAndNeverOverwritesAnEarlierOne) {
     const std::vector<QByteArray> damaged{"",
                                           "{",
@@ -123,32 +108,6 @@ TEST_F(JsonUserDefaultsTest, WhatIsNoFileIsSetAsideWithoutBeingOpened) {
     EXPECT_THAT(logged([&] { JsonUserDefaults(path).set(key, true); }), HasSubstr("set aside"));
     EXPECT_EQ(JsonUserDefaults(path).object(key), DefaultsValue(true));
     EXPECT_EQ(folder.names(), u"settings.json settings.json.damaged"_s);
-}
-
-TEST_F(JsonUserDefaultsTest, WritesThroughALinkAlsoToATargetThatIsNotThereYet) {
-    QDir().mkdir(folder.path(u"elsewhere"_s));
-    const auto target = u"elsewhere/real.json"_s;
-    ASSERT_TRUE(QFile::link(folder.path(target), path));
-    for (const bool value : {true, false}) {
-        JsonUserDefaults(path).set(key, value);
-        EXPECT_TRUE(QFileInfo(path).isSymLink());
-        EXPECT_EQ(JsonUserDefaults(folder.path(target)).object(key), DefaultsValue(value));
-    }
-    folder.write(target, "damaged");
-    EXPECT_THAT(logged([&] { JsonUserDefaults(path).set(key, true); }), HasSubstr("set aside"));
-    EXPECT_EQ(folder.read(target + QLatin1String(".damaged")), "damaged");
-    EXPECT_TRUE(QFileInfo(path).isSymLink());
-}
-
-TEST_F(JsonUserDefaultsTest, AFolderThatCannotBeMadeCostsOneLineAndNothingElse) {
-    folder.write(u"occupied"_s, "");
-    JsonUserDefaults defaults(folder.path(u"occupied/settings.json"_s));
-    const std::string lines = logged([&] {
-        defaults.set(key, true);
-        defaults.set(key, 1.5);
-    });
-    EXPECT_THAT(lines, HasSubstr("Quillet: the settings cannot be stored"));
-    EXPECT_EQ(defaults.object(key), DefaultsValue(1.5));
 }
 
 TEST_F(JsonUserDefaultsTest, AFullDiskLeavesTheOldFileWhole) {

@@ -73,10 +73,3 @@ TEST_F(XdgAutostartLoginItemTest, QuotesTheExecutableAsLaunchersReadIt) {
     }
 }
 
-TEST_F(XdgAutostartLoginItemTest, SaysWhyTheEntryCannotBeWritten) {
-    folder.write(u"occupied"_s, "");
-    auto login = XdgAutostartLoginItem(folder.path(u"occupied/q.desktop"_s), u"/usr/bin/quillet"_s);
-    const auto error = login.registerItem();
-    ASSERT_TRUE(error);
-    EXPECT_THAT(error->toStdString(), HasSubstr("occupied"));
-}

@@ -89,14 +89,6 @@ TEST_F(BusProgramInstanceTest, AProgramThatHangsIsGivenUpInTime) {
               "org.freedesktop.DBus.Error.NoReply\n");
 }
 
-TEST_F(BusProgramInstanceTest, AStrangerWithTheNameIsReportedAtOnce) {
-    auto stranger = bus.connect();
-    ASSERT_TRUE(stranger.registerService(programName));
-    testing::internal::CaptureStdout();
-    EXPECT_EQ(outcome(start(Kind::Activate)), Claim::Unanswered);
-    EXPECT_NE(testing::internal::GetCapturedStdout().find("does not answer"), std::string::npos);
-}
-
 TEST_F(BusProgramInstanceTest, TakesOverFromAProgramThatEndsWithoutAnAnswer) {
     auto owner = bus.connect();
     std::optional<fakes::Responder> ending;
@@ -111,13 +103,6 @@ TEST_F(BusProgramInstanceTest, TakesOverFromAProgramThatEndsWithoutAnAnswer) {
     });
     ASSERT_TRUE(owner.registerService(programName));
     EXPECT_EQ(outcome(start(Kind::Activate)), Claim::First);
-}
-
-TEST_F(BusProgramInstanceTest, WithoutABusEveryStartIsTheFirst) {
-    testing::internal::CaptureStdout();
-    const QDBusConnection none(u"no such connection"_s);
-    EXPECT_EQ(BusProgramInstance(none, {}).claim(Kind::Activate), Claim::First);
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
 }
 
 TEST_F(BusProgramInstanceTest, ActionsArriveInTheirOrderAndWaitWhileNobodyHandlesThem) {

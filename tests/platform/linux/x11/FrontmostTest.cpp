@@ -91,16 +91,6 @@ TEST_F(XWindowsTest, ActivatingBringsTheVeryWindowBackThatWasActiveLast) {
     EXPECT_EQ(frontmostProcess(), installedProcess);
 }
 
-TEST_F(XWindowsTest, OwnWindowsAnswerWithTheOwnIdentifier) {
-    const auto notes = installed();
-    ASSERT_TRUE(waitForFrontmost(installedProcess));
-    QWidget own;
-    own.resize(200, 100);
-    own.show();
-    own.activateWindow();
-    EXPECT_TRUE(eventually([&] { return frontmostIdentifier() == "com.corvane.Quillet"; }));
-}
-
 TEST_F(XWindowsTest, ADialogIsWhatItsParentIs) {
     const auto notes = installed();
     XWindow dialog(*applications, {.process = installedProcess,
@@ -117,13 +107,6 @@ TEST_F(XWindowsTest, ADialogIsWhatItsParentIs) {
     foreign.focus();
     ASSERT_TRUE(waitForActive(foreign));
     EXPECT_EQ(frontmostIdentifier(), "Dialog");
-}
-
-TEST_F(XWindowsTest, WindowsThatSayNothingHaveNoIdentifier) {
-    const XWindow bare(*applications, {});
-    ASSERT_TRUE(waitForActive(bare));
-    EXPECT_EQ(frontmostIdentifier(), "none");
-    EXPECT_EQ(frontmostProcess(), 0);
 }
 
 TEST_F(XWindowsTest, RunningApplicationsAreThoseWithOrdinaryWindows) {
@@ -160,43 +143,6 @@ TEST_F(XWindowsTest, AServerThatAnotherClientHoldsDelaysNobody) {
     EXPECT_TRUE(waitForFrontmost(installedProcess));
 }
 
-TEST_F(XWindowsTest, WhatNothingCanOpenIsAnsweredPlainly) {
-    EXPECT_FALSE(workspace.openUrl(
-        QUrl(QStringLiteral("x-apple.systempreferences:com.apple.preference.security"))));
-    EXPECT_FALSE(workspace.openUrl(QUrl(QStringLiteral("file:///etc/passwd"))));
-}
-
 class XWithoutManagerTest : public XWindowsTest {};
-
-TEST_F(XWithoutManagerTest, TheInputFocusTellsWhoIsFrontmostAndActivationMovesIt) {
-    EXPECT_FALSE(windows.activeWindow().hasWindowManager());
-    EXPECT_EQ(workspace.frontmostApplication(), std::nullopt);
-    const auto notes = installed();
-    const auto terminal = unknown({120, 120, 200, 100});
-    notes->focus();
-    EXPECT_EQ(frontmostIdentifier(), "org.example.Notes");
-    const auto target = *workspace.frontmostApplication();
-    terminal->focus();
-    EXPECT_EQ(frontmostProcess(), unknownProcess);
-    workspace.activate(target);
-    EXPECT_EQ(frontmostProcess(), installedProcess);
-    EXPECT_EQ(screens.mainScreen()->visibleFrame, screens.mainScreen()->frame);
-}
-
-TEST_F(XWithoutManagerTest, AManagerIsKnownByItsSignInWhateverOrderItIsGiven) {
-    {
-        const XWindow sign(*applications, {});
-        const auto name = [&](xcb_window_t window) {
-            setNumbers(*applications, window, "_NET_SUPPORTING_WM_CHECK", XCB_ATOM_WINDOW,
-                       {sign.id()});
-        };
-        name(applications->root());
-        EXPECT_FALSE(windows.activeWindow().hasWindowManager());
-        name(sign.id());
-        EXPECT_TRUE(eventually([&] { return windows.activeWindow().hasWindowManager(); }));
-    }
-    // The root window keeps the mark of a manager that died.
-    EXPECT_TRUE(eventually([&] { return !windows.activeWindow().hasWindowManager(); }));
-}
 
 } // namespace desktop

@@ -96,18 +96,6 @@ TEST_F(XTestKeyboardEventsTest, GivesUpAfterHalfASecondWhileTheUserHoldsAModifie
     }
 }
 
-TEST_F(XTestKeyboardEventsTest, CapsLockAndNumLockDoNoHarm) {
-    user.tap(capsLock);
-    user.tap(numLock);
-    ASSERT_EQ(user.lockedModifiers(), XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2);
-    application.takeKeys();
-    post(11, flags::command);
-    EXPECT_EQ(application.takeKeys(), (Keys{"+37/18", "+56/22", "-56/22", "-37/22"}));
-    user.tap(capsLock);
-    user.tap(numLock);
-    EXPECT_EQ(user.lockedModifiers(), 0);
-}
-
 TEST_F(XTestKeyboardEventsTest, FollowsTheLayoutAndTheGroupOfTheMoment) {
     const auto keyPressedFor = [&](platform::KeyCode key) {
         application.takeKeys();

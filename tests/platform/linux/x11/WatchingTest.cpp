@@ -77,15 +77,6 @@ TEST_F(WatchingTest, SeesKeysWithTheirModifiersWhileAnotherProgramHoldsAGrab) {
     EXPECT_EQ(takeKeyDowns(), (Keys{"11:0", "11:180000", "53:e0000"}));
 }
 
-TEST_F(WatchingTest, KnowsTheModifiersThatWereDownBeforeAndForgetsLocks) {
-    user.press(leftControl);
-    user.tap(capsLock);
-    const auto watch = watchKeys();
-    user.tap(keyB);
-    EXPECT_EQ(takeKeyDowns(), Keys{"11:100000"});
-    user.tap(capsLock);
-}
-
 TEST_F(WatchingTest, OwnShortcutsAreNotTheUsers) {
     const auto watch = watchKeys();
     // The same strokes, through the same device.
@@ -109,28 +100,6 @@ TEST_F(WatchingTest, KeysForThisProgramAreNotReportedButTheirModifiersCount) {
     EXPECT_EQ(takeKeyDowns(), Keys{"11:20000"});
 }
 
-TEST_F(WatchingTest, AHeldKeyIsReportedOnce) {
-    run(QStringLiteral("xset"),
-        {QStringLiteral("r"), QStringLiteral("rate"), QStringLiteral("20"), QStringLiteral("100")});
-    const auto watch = watchKeys();
-    user.press(keyB);
-    ASSERT_TRUE(application.waitForKeys(5)) << "the server does not repeat";
-    user.release(keyB);
-    EXPECT_EQ(takeKeyDowns(), Keys{"11:0"});
-}
-
-TEST_F(WatchingTest, FollowsAChangedTableOfModifiers) {
-    const auto watch = watchKeys();
-    run(QStringLiteral("xmodmap"),
-        {QStringLiteral("-e"), QStringLiteral("remove Lock = Caps_Lock"), QStringLiteral("-e"),
-         QStringLiteral("add Control = Caps_Lock")});
-    user.press(capsLock);
-    user.tap(keyB);
-    user.release(capsLock);
-    EXPECT_EQ(takeKeyDowns(), Keys{"11:100000"});
-    run(QStringLiteral("setxkbmap"), {QStringLiteral("us")});
-}
-
 TEST_F(WatchingTest, TheServerIsAskedOnlyWhileSomebodyListens) {
     EXPECT_EQ(selectedEvents(), 0U);
     auto keys = watchKeys();
@@ -145,20 +114,6 @@ TEST_F(WatchingTest, TheServerIsAskedOnlyWhileSomebodyListens) {
     EXPECT_EQ(selectedEvents(), 0U);
     user.tap(keyB);
     EXPECT_EQ(takeKeyDowns(), Keys{});
-}
-
-TEST_F(WatchingTest, AWatchMayEndItselfAndAnotherBegin) {
-    core::Registration watch;
-    int calls = 0;
-    watch = keyMonitor.addKeyDownMonitor([&](const platform::KeyDownEvent&) {
-        ++calls;
-        watch = watchKeys();
-    });
-    user.tap(keyB);
-    deliver();
-    user.tap(keyQ);
-    EXPECT_EQ(takeKeyDowns(), Keys{"12:0"});
-    EXPECT_EQ(calls, 1);
 }
 
 TEST_F(WatchingTest, DismissesByAPressByEscapeAndByAnotherActiveWindow) {
