@@ -41,8 +41,9 @@ class RoadTest(NoteCase):
         frame = self.program.wait_for_bar()
         told = self.text.extents(*words)
         seen = self.desktop.highlight_seen(told)
-        self.assertEqual(seen.y - frame.bottom, bar.GAP)
-        self.assertEqual(frame.x, seen.x)
+        # GTK 4 forgets the thin border around the text.
+        self.assertAlmostEqual(seen.y - frame.bottom, bar.GAP, delta=1)
+        self.assertAlmostEqual(frame.x, seen.x, delta=1)
 
     def test_bold_makes_the_word_bold_and_leaves_the_rest_alone(self):
         words = self.desktop.select(self.text, "brown")

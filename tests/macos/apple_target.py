@@ -19,7 +19,10 @@ import sys
 # calling convention and the object format are Apple's.
 TARGET = ["-fobjc-arc", "-fblocks", "-std=c++20", "-O1",
           "-U__APPLE__", "-U__MACH__", "-U__nonnull", "-U__nullable", "-D__linux__", "-D__ELF__",
-          "-D_GNU_SOURCE", "-DQT_NO_VERSION_TAGGING", "-ferror-limit=5", "-nostdinc++", "-nostdlibinc"]
+          "-D_GNU_SOURCE", "-DQT_NO_VERSION_TAGGING", "-ferror-limit=5", "-nostdinc++", "-nostdlibinc",
+          # Apple's targets have no numbers of 128 bits, which these headers expect of every clang.
+          "-D_BITS_FLOATN_H", "-D__HAVE_FLOAT128=0", "-D__HAVE_DISTINCT_FLOAT128=0",
+          "-D__HAVE_FLOAT64X=1", "-D__HAVE_FLOAT64X_LONG_DOUBLE=1", "-include", "bits/floatn-common.h"]
 # To this system's headers every processor is their own; the one builtin of it that they call does nothing.
 OTHER_PROCESSOR = ["-D__x86_64__", "-D__builtin_ia32_pause()=(void)0"]
 WARNINGS = ["-Werror", "-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Wconversion", "-Wold-style-cast",

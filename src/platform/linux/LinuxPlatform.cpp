@@ -4,6 +4,7 @@
 #include "core/Log.h"
 #include "platform/linux/LinuxSystemInfo.h"
 #include "platform/linux/TerminationSignals.h"
+#include "platform/linux/ToolkitMessages.h"
 #include "platform/linux/appcast/AppcastConfiguration.h"
 #include "platform/linux/appcast/AppcastUpdater.h"
 #include "platform/linux/appcast/HttpsFeedTransport.h"
@@ -129,6 +130,7 @@ void logWhatIsMissing(Foundation& foundation) {
 std::optional<QString> prepareProcess() {
     // Whoever reads our log lines may go away; that must not end the program.
     std::signal(SIGPIPE, SIG_IGN);
+    silenceAccessibilityBridge();
     if (!XcbDisplay::connect()) {
         const QString display = qEnvironmentVariable("DISPLAY");
         return display.isEmpty() ? QStringLiteral("no X server: DISPLAY is not set")
