@@ -1,5 +1,5 @@
 #!/bin/sh
-# install-packages.sh build [desktop]: installs what packages.txt lists for these purposes and this
+# install-packages.sh build [demo] [test]: installs what packages.txt lists for these purposes and this
 # machine lacks. Says nothing and touches nothing when all of it is there.
 set -eu
 list=$(dirname "$0")/../packages.txt
@@ -11,6 +11,23 @@ wanted() { # manager, purposes…
         awk -v manager="$manager" -v purpose="$purpose" \
             '$1 == manager && $2 == purpose { print $3 }' "$list"
     done
+}
+
+is_installed() {
+    [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2> /dev/null || true)" = installed ]
+}
+
+is_known() { apt-cache show --no-all-versions "$1" > /dev/null 2>&1; }
+
+# The first of these, with | between them, for which a question is answered with yes.
+one_of() { # alternatives, question
+    for package in $(echo "$1" | tr '|' ' '); do
+        if "$2" "$package"; then
+            echo "$package"
+            return 0
+        fi
+    done
+    return 1
 }
 
 as_root() {
@@ -35,16 +52,18 @@ if [ "$(uname)" = Darwin ]; then
     # shellcheck disable=SC2086 # one word a package
     [ -z "$missing" ] || brew install $missing
 elif command -v apt-get > /dev/null; then
-    missing=$(wanted apt "$@" | while read -r package; do
-        status=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2> /dev/null || true)
-        [ "$status" = installed ] || echo "$package"
+    missing=$(wanted apt "$@" | while read -r alternatives; do
+        one_of "$alternatives" is_installed > /dev/null || echo "$alternatives"
     done)
     if [ -n "$missing" ]; then
         echo "Installing:" $missing
         as_root apt-get update -q
+        packages=$(for alternatives in $missing; do
+            one_of "$alternatives" is_known || echo "$alternatives"
+        done)
         # shellcheck disable=SC2086
         as_root env DEBIAN_FRONTEND=noninteractive \
-            apt-get install -q -y --no-install-recommends $missing
+            apt-get install -q -y --no-install-recommends $packages
     fi
 else
     echo "Neither apt nor Homebrew is here; install what packages.txt lists by hand." >&2

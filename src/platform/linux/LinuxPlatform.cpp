@@ -167,14 +167,16 @@ std::unique_ptr<Platform> makePlatform(std::unique_ptr<ProgramInstance> programI
     platform->screenCapture = std::make_unique<XCompositeScreenCapture>();
     platform->symbols = std::make_unique<DrawnSymbols>();
     platform->windowServer = std::make_unique<X11WindowServer>(shared.connection);
-    platform->workspace = std::make_unique<EwmhWorkspace>(
-        shared.windows, shared.desktopEntries, *platform->systemInfo->bundleIdentifier());
+    auto workspace = std::make_unique<EwmhWorkspace>(shared.windows, shared.desktopEntries,
+                                                     *platform->systemInfo->bundleIdentifier());
+    platform->keyboardEvents = std::make_unique<XTestKeyboardEvents>(
+        *shared.connection, *platform->runLoop, shared.ownKeyStrokes,
+        [&applications = *workspace] { return applications.keyTargetIsInFront(); });
+    platform->workspace = std::move(workspace);
     platform->applicationBundles = std::make_unique<DesktopApplicationBundles>(
         ApplicationFolders::fromEnvironment(), localeSuffixes(messagesLocale()), currentDesktops());
     platform->applicationIcons = std::make_unique<ThemeApplicationIcons>();
     platform->accessibility = std::make_unique<AtSpiAccessibility>(shared.windows, shared.session);
-    platform->keyboardEvents = std::make_unique<XTestKeyboardEvents>(
-        *shared.connection, *platform->runLoop, shared.ownKeyStrokes);
     platform->keyPresses =
         std::make_unique<QtKeyPresses>([](const QKeyEvent& event) { return positionOf(event); });
     platform->globalKeyMonitor =

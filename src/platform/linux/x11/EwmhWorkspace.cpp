@@ -53,6 +53,7 @@ std::vector<RunningApplication> EwmhWorkspace::runningApplications() {
 }
 
 void EwmhWorkspace::activate(const RunningApplication& application) {
+    keyTarget_.set(application.processIdentifier);
     if (const auto window = windowOf(application.processIdentifier)) {
         activateWindow(*window);
     }

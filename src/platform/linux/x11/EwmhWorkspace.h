@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/KeyTarget.h"
 #include "platform/Workspace.h"
 #include "platform/linux/freedesktop/DesktopEntryIndex.h"
 #include "platform/linux/x11/EwmhWindows.h"
@@ -19,6 +20,10 @@ public:
     void activate(const RunningApplication& application) override;
     bool openUrl(const QUrl& url) override;
 
+    /// Whether the application that was last asked to come to the front has the keyboard. One
+    /// without a window never has.
+    bool keyTargetIsInFront() { return keyTarget_.isInFront(frontmostApplication()); }
+
 private:
     void activateWindow(xcb_window_t window);
     std::optional<xcb_window_t> windowOf(ProcessIdentifier process);
@@ -26,6 +31,7 @@ private:
     EwmhWindows& windows_;
     DesktopEntryIndex& index_;
     const QString ownIdentifier_;
+    KeyTarget keyTarget_;
     /// The application of the active window, and the activation for which it was found; no
     /// activation when it must be found again.
     std::optional<RunningApplication> identified_;

@@ -30,10 +30,12 @@ struct XTestKeyEvent final : KeyEvent {
 } // namespace
 
 XTestKeyboardEvents::XTestKeyboardEvents(XcbConnection& connection, RunLoop& runLoop,
-                                         OwnKeyStrokes& ownStrokes)
+                                         OwnKeyStrokes& ownStrokes,
+                                         std::function<bool()> isTargetInFront)
     : connection_(connection)
     , runLoop_(runLoop)
     , ownStrokes_(ownStrokes)
+    , isTargetInFront_(std::move(isTargetInFront))
     , keyboard_(connection) {
     if (keyboard_.canPost()) {
         releaseStaleKeys();
@@ -72,13 +74,15 @@ void XTestKeyboardEvents::post(const KeyEvent& event, EventTap) {
 void XTestKeyboardEvents::postShortcut(const Shortcut& shortcut) {
     Keymap keymap;
     std::optional<ModifierMapping> mapping;
+    bool inFront = true;
     for (int polls = 0; polls <= mostPolls;) {
         const auto state = keyboard_.state();
         if (!state) {
             core::log(u"shortcut not posted — the X server does not answer");
             return;
         }
-        if (state->modifiersHeld) {
+        inFront = isTargetInFront_();
+        if (state->modifiersHeld || !inFront) {
             runLoop_.sleep(pollInterval);
             ++polls;
             continue;
@@ -100,7 +104,8 @@ void XTestKeyboardEvents::postShortcut(const Shortcut& shortcut) {
             return;
         }
     }
-    core::log(u"shortcut not posted — modifier keys are held");
+    core::log(inFront ? u"shortcut not posted — modifier keys are held"
+                      : u"shortcut not posted — the application is not in front");
 }
 
 void XTestKeyboardEvents::send(const std::vector<KeyStroke>& strokes) {

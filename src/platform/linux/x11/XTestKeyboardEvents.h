@@ -5,6 +5,7 @@
 #include "platform/linux/x11/OwnKeyStrokes.h"
 #include "platform/linux/x11/ServerKeyboard.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -22,12 +23,15 @@ class XcbConnection;
 ///
 /// Modifiers that the user holds would join in the chord. Letting them go on the user's behalf
 /// leaves one stuck when the user does so at the same moment, so posting waits for the user, and
-/// gives up with a log line.
+/// gives up with a log line. So it does while the application that the keys are meant for does not
+/// have the keyboard: in another window they might do anything.
 class XTestKeyboardEvents final : public KeyboardEvents {
 public:
     /// Releases posted keys that some earlier program left down. `runLoop` and `connection` outlive
-    /// this object; `ownStrokes` learns what is posted on `connection`.
-    XTestKeyboardEvents(XcbConnection& connection, RunLoop& runLoop, OwnKeyStrokes& ownStrokes);
+    /// this object; `ownStrokes` learns what is posted on `connection`. `isTargetInFront` says
+    /// whether keys would reach whom they are meant for.
+    XTestKeyboardEvents(XcbConnection& connection, RunLoop& runLoop, OwnKeyStrokes& ownStrokes,
+                        std::function<bool()> isTargetInFront);
 
     std::unique_ptr<EventSource> createSource(EventSourceState state) override;
 
@@ -35,7 +39,7 @@ public:
     std::unique_ptr<KeyEvent> createKeyEvent(const EventSource* source, KeyCode key,
                                              KeyDirection direction) override;
 
-    /// Blocks for up to half a second while the user holds modifiers.
+    /// Blocks for up to half a second while the user holds modifiers or the target is not in front.
     void post(const KeyEvent& event, EventTap tap) override;
 
 private:
@@ -51,6 +55,7 @@ private:
     XcbConnection& connection_;
     RunLoop& runLoop_;
     OwnKeyStrokes& ownStrokes_;
+    std::function<bool()> isTargetInFront_;
     ServerKeyboard keyboard_;
     /// The key-down whose key-up has not been posted yet.
     std::optional<Shortcut> pending_;

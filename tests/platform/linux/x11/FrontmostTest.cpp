@@ -87,8 +87,10 @@ TEST_F(XWindowsTest, ActivatingBringsTheVeryWindowBackThatWasActiveLast) {
         workspace.activate(target);
         return windows.activeWindow().current() == second->id();
     }));
+    EXPECT_TRUE(workspace.keyTargetIsInFront());
     activate(4999999); // nobody: nothing happens
     EXPECT_EQ(frontmostProcess(), installedProcess);
+    EXPECT_FALSE(workspace.keyTargetIsInFront());
 }
 
 TEST_F(XWindowsTest, ADialogIsWhatItsParentIs) {

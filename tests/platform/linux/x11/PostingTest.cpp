@@ -21,7 +21,7 @@ namespace {
     const auto connection = platform::XcbConnection::open();
     fakes::VirtualRunLoop runLoop;
     platform::OwnKeyStrokes strokes;
-    platform::XTestKeyboardEvents keyboard(*connection, runLoop, strokes);
+    platform::XTestKeyboardEvents keyboard(*connection, runLoop, strokes, [] { return true; });
     const xcb_window_t window = xcb_generate_id(connection->get());
     xcb_create_window(connection->get(), XCB_COPY_FROM_PARENT, window, connection->root(), 0, 0, 1,
                       1, 0, XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
@@ -96,6 +96,21 @@ TEST_F(XTestKeyboardEventsTest, GivesUpAfterHalfASecondWhileTheUserHoldsAModifie
     }
 }
 
+TEST_F(XTestKeyboardEventsTest, NothingReachesAWindowThatTheKeysAreNotMeantFor) {
+    isTargetInFront = [] { return false; };
+    testing::internal::CaptureStdout();
+    post(11, flags::command);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(),
+              "Quillet: shortcut not posted — the application is not in front\n");
+    EXPECT_EQ(application.takeKeys(), Keys());
+    EXPECT_NEAR(std::accumulate(runLoop.sleeps.begin(), runLoop.sleeps.end(), 0.0), 0.5, 0.02);
+
+    // One that comes late gets them.
+    isTargetInFront = [looks = 0]() mutable { return ++looks > 20; };
+    post(11, flags::command);
+    EXPECT_EQ(application.takeKeys(), (Keys{"+37/0", "+56/4", "-56/4", "-37/4"}));
+}
+
 TEST_F(XTestKeyboardEventsTest, FollowsTheLayoutAndTheGroupOfTheMoment) {
     const auto keyPressedFor = [&](platform::KeyCode key) {
         application.takeKeys();
@@ -121,7 +136,7 @@ TEST_F(XTestKeyboardEventsTest, ReleasesAtTheStartWhatAnEarlierProgramLeftDown) 
         dead.press(keyB);
     }
     ASSERT_EQ(user.keysDown(), platform::KeySet().set(leftControl).set(keyB));
-    const platform::XTestKeyboardEvents next(*connection, runLoop, ownStrokes);
+    const platform::XTestKeyboardEvents next(*connection, runLoop, ownStrokes, [] { return true; });
     settle(*connection);
     EXPECT_TRUE(user.keysDown().none());
 }

@@ -65,7 +65,9 @@ protected:
     std::shared_ptr<platform::XcbConnection> connection = platform::XcbConnection::open();
     fakes::VirtualRunLoop runLoop;
     platform::OwnKeyStrokes ownStrokes;
-    platform::XTestKeyboardEvents keyboard{*connection, runLoop, ownStrokes};
+    std::function<bool()> isTargetInFront = [] { return true; };
+    platform::XTestKeyboardEvents keyboard{*connection, runLoop, ownStrokes,
+                                           [this] { return isTargetInFront(); }};
 };
 
 } // namespace desktop
