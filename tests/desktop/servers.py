@@ -58,7 +58,7 @@ class Feed(_Server):
     """Publishes appcasts."""
 
     def __init__(self, session):
-        super().__init__("platform/linux/appcast/feed_server.py",
+        super().__init__("platform/appcast/feed_server.py",
                          tempfile.mkdtemp(dir=session.folder))
 
     @property

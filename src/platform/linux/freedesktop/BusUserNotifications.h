@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/UserNotifications.h"
+#include "platform/UserNotifications.h"
 
 #include <QDBusConnection>
 #include <QObject>

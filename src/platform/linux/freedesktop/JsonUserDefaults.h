@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/UserDefaults.h"
-#include "platform/linux/freedesktop/WholeFile.h"
+#include "platform/qt/WholeFile.h"
 
 #include <nlohmann/json_fwd.hpp>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/LoginItem.h"
-#include "platform/linux/freedesktop/WholeFile.h"
+#include "platform/qt/WholeFile.h"
 
 namespace platform {
 
