@@ -70,7 +70,7 @@ class LargeApplicationsTest(DesktopCase):
             chosen = self.desktop.select(text, WORDS)
             after = self.desktop.settled_picture(whole)
             program = self.start_at_once()
-            frame = program.wait_for_bar()
+            frame = program.wait_for_bar(limit=10.0)
             told = self.told(text, chosen) if place is Place.MAYBE else text.extents(*chosen)
             match place:
                 case _ if told is None:

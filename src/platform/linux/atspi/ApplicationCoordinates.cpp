@@ -73,7 +73,7 @@ std::optional<Extents> ApplicationCoordinates::windowExtents(Coordinates relativ
 }
 
 void ApplicationCoordinates::lookAround(const ObjectReference& object, Inquiry& inquiry) {
-    constexpr int highest = 24;
+    constexpr int highest = 48;
     object_ = object;
     rootPane_.reset();
     window_.reset();
