@@ -3,9 +3,16 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <set>
 
 namespace gallery {
+
+/// What the names of the tests carry.
+void PrintTo(const Entry& view, std::ostream* out) {
+    *out << view.name.toStdString();
+}
+
 namespace {
 
 class EveryView : public testing::TestWithParam<Entry> {};

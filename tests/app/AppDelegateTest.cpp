@@ -136,24 +136,6 @@ TEST_F(AppDelegateTest, TheColourChoiceOpensTheTargetsColoursAndPlacesThePanel) 
     EXPECT_EQ(fakes.colorPanel.modes.size(), 1U);
 }
 
-TEST_F(AppDelegateTest, ReportsAndClicksThatOutliveTheDelegateChangeNothing) {
-    launch();
-    select(QStringLiteral("word"));
-    const auto report = delegate->notesMonitor()->onSelectionChanged;
-    const auto format = delegate->formattingBar()->onFormatSelected;
-    delegate.reset();
-    fakes.record.clear();
-
-    report(false, Rect{});
-    EXPECT_TRUE(NotesAutomation::targetApplication);
-    format(bar::TextFormat::bold);
-    EXPECT_TRUE(fakes.keyboardEvents.posted.empty());
-    report(true, Rect{10, 10, 20, 20});
-    EXPECT_FALSE(NotesAutomation::targetApplication);
-    fakes.runLoop.advance(1);
-    EXPECT_EQ(count("order front"), 0);
-}
-
 TEST_F(AppDelegateTest, TerminationStopsThePollAndHidesTheBar) {
     delegate->applicationWillTerminate(); // before the launch there is nothing to do
     EXPECT_TRUE(fakes.record.empty());
@@ -165,30 +147,6 @@ TEST_F(AppDelegateTest, TerminationStopsThePollAndHidesTheBar) {
     fakes.runLoop.advance(0.3);
     EXPECT_EQ(fakes.accessibility.calls, calls);
     EXPECT_FALSE(barIsVisible());
-}
-
-TEST_F(AppDelegateTest, EveryOpeningOfTheFeedbackFormStartsEmptyInTheSameWindow) {
-    launch();
-    EXPECT_EQ(delegate->feedbackWindow(), nullptr);
-    entry(9).trigger();
-    const ui::TitledWindow* window = delegate->feedbackWindow();
-    ASSERT_NE(window, nullptr);
-    EXPECT_EQ(window->windowTitle(), u"Feedback senden");
-    EXPECT_EQ(window->size(), QSize(540, 540));
-    EXPECT_EQ(count("bring to front"), 1);
-    window->findChild<QPlainTextEdit*>()->setPlainText(QStringLiteral("half a thought"));
-    QTest::mouseClick(window->findChildren<QPushButton*>().front(), Qt::LeftButton);
-    EXPECT_FALSE(window->isVisible());
-
-    core::NotificationCenter::defaultCenter().post(QStringLiteral("showFeedbackSheet"));
-    EXPECT_EQ(delegate->feedbackWindow(), window);
-    EXPECT_TRUE(window->isVisible());
-    EXPECT_EQ(window->findChild<QPlainTextEdit*>()->toPlainText(), QString());
-    EXPECT_EQ(count("bring to front"), 2);
-    const auto texts = window->findChildren<QWidget*>();
-    EXPECT_TRUE(std::any_of(texts.begin(), texts.end(), [](const QWidget* text) {
-        return text->accessibleName() == u"Corvane Quillet – Hauptfenster";
-    }));
 }
 
 TEST_F(AppDelegateTest, OffersTheSystemsSettingsWithoutAccess) {

@@ -75,16 +75,6 @@ TEST_F(MenuTrackingTest, APanelThatNeverSaysClosedHoldsThePollForThreeSeconds) {
     EXPECT_FALSE(pollRests());
 }
 
-TEST_F(MenuTrackingTest, ASystemThatSurelySaysClosedHoldsThePollUntilThen) {
-    tracking.emplace(menu, fakes.runLoop, fakes.pointerMonitor, platform::MenuClosing::Told);
-    openInPanel();
-    fakes.runLoop.advance(60);
-    fakes.pointerMonitor.events.notify({platform::DismissReason::PointerPressed, {}});
-    EXPECT_TRUE(pollRests());
-    Q_EMIT menu.aboutToHide();
-    EXPECT_FALSE(pollRests());
-}
-
 TEST_F(MenuTrackingTest, AMenuOfOurOwnHoldsThePollAsLongAsItIsSeen) {
     menu.popup(QPoint(0, 0));
     fakes.runLoop.advance(60);

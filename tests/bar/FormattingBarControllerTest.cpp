@@ -60,15 +60,6 @@ TEST_F(FormattingBarController, SaysWhereTheColourPanelGoesBeforeItReportsTheCho
     monitor::NotesAutomation::colorPanelPosition = {};
 }
 
-TEST_F(FormattingBarController, CanGoBeforeItsTimerFires) {
-    show();
-    controller_->hide();
-    controller_.reset();
-    fake_.runLoop.advance(1);
-    EXPECT_FALSE(hasWindow("bar"));
-    EXPECT_EQ(std::ranges::count(fake_.record, "order out"), 0);
-}
-
 TEST_F(FormattingBarController, CanBeEndedByItsOwnCallbacks) {
     const auto end = [this] {
         controller_.reset();

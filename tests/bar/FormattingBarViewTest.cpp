@@ -85,20 +85,6 @@ TEST_F(FormattingBarView, LaysOutEveryControlAndDividerToThePointAndNamesThem) {
     EXPECT_TRUE(bar.testAttribute(Qt::WA_AlwaysShowToolTips));
 }
 
-TEST_F(FormattingBarView, IsCutOffEvenlyInItsFirstWindowAndWhatIsLeftCanBeClicked) {
-    show();
-    ASSERT_EQ(window().size(), QSize(590, 44));
-    EXPECT_EQ(place(window(), "FormattingBarView"), QRect(-25, 3, 640, 38));
-    // Of the first button 15 points are left, of the last one too.
-    EXPECT_EQ(place(window(), "bold"), QRect(-15, 9, 30, 26));
-    click(window(), QPoint(1, 22));
-    click(window(), QPoint(14, 10));
-    click(window(), QPoint(588, 34));
-    click(window(), QPoint(16, 22)); // between the first two
-    EXPECT_EQ(reports_, (std::vector{QStringLiteral("Bold"), QStringLiteral("Bold"),
-                                     QStringLiteral("Remove Formatting")}));
-}
-
 TEST_F(FormattingBarView, HighlightsTheButtonUnderThePointerAtAFifthOfTheAccent) {
     show(2);
     for (const char* name : {"bold", "textformat.size", "paintpalette.fill"}) {

@@ -77,27 +77,6 @@ TEST_F(HeadingPicker, LaysOutItsRowsInTheFontsOfTheirLevels) {
     EXPECT_EQ(picker().height(), y - 4 + 8);
 }
 
-TEST_F(HeadingPicker, HighlightsTheRowUnderThePointerAtThreeTenthsOfTheAccent) {
-    show(2);
-    open();
-    const QRect row = place(picker(), "Heading");
-    const QPoint end(row.right() - 4, row.center().y());
-    const QPalette palette = QApplication::palette();
-    QImage expected(1, 1, QImage::Format_ARGB32_Premultiplied);
-    expected.fill(ui::color({ui::Color::PopoverMaterial}, palette));
-    QPainter(&expected).fillRect(0, 0, 1, 1, ui::color({ui::Color::Accent, 0.3}, palette));
-    const QColor colour = expected.pixelColor(0, 0);
-
-    pointAt(picker(), row.center());
-    const QColor hovered = pixel(picker(), end);
-    EXPECT_NEAR(hovered.red(), colour.red(), 4);
-    EXPECT_NEAR(hovered.blue(), colour.blue(), 4);
-    // Chosen, the row is not highlighted any more when the picker opens again.
-    click(picker(), "Heading");
-    open();
-    EXPECT_GT(pixel(picker(), end).red(), hovered.red() + 20);
-}
-
 TEST_F(HeadingPicker, IsDismissedByAPressElsewhereEscapeOrAnotherActiveWindow) {
     show(2);
     for (const DismissReason reason : {DismissReason::PointerPressed, DismissReason::EscapePressed,

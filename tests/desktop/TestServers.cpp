@@ -1,12 +1,21 @@
 // The servers of the program under test: what the shipped executable has compiled in comes from the
 // environment here, together with the authority that signed the servers' certificates.
 #include "feedback/FeedbackDefaults.h"
-#include "feedback/TrustingSession.h"
+#include "platform/appcast/AppcastDefaults.h"
 
 #include <QCoreApplication>
-#include <QFile>
+#include <QSslConfiguration>
 
-#include <memory>
+namespace {
+
+std::unique_ptr<QNetworkAccessManager> trustingSession() {
+    auto trusting = QSslConfiguration::defaultConfiguration();
+    trusting.addCaCertificates(qEnvironmentVariable("QUILLET_TEST_AUTHORITY"));
+    QSslConfiguration::setDefaultConfiguration(trusting);
+    return std::make_unique<QNetworkAccessManager>();
+}
+
+} // namespace
 
 namespace feedback {
 
@@ -15,15 +24,22 @@ QString defaultEndpoint() {
 }
 
 QNetworkAccessManager& sharedSession() {
-    static std::unique_ptr<TrustingSession> session;
-    if (!session) {
-        session = std::make_unique<TrustingSession>([] {
-            QFile file(qEnvironmentVariable("QUILLET_TEST_AUTHORITY"));
-            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-        });
-        qAddPostRoutine([] { session.reset(); });
-    }
+    static auto session = trustingSession();
+    static const bool ends = (qAddPostRoutine([] { session.reset(); }), true);
+    Q_UNUSED(ends);
     return *session;
 }
 
 } // namespace feedback
+
+namespace platform {
+
+QString appcastAddress() {
+    return qEnvironmentVariable("QUILLET_TEST_FEED");
+}
+
+std::unique_ptr<QNetworkAccessManager> makeAppcastSession() {
+    return trustingSession();
+}
+
+} // namespace platform

@@ -7,6 +7,7 @@ from desktop import Desktop
 from gnote import Gnote
 from keylog import KeyLog
 from program import Program
+from servers import Server
 from tray import Tray
 from windows import Rect
 
@@ -58,6 +59,12 @@ class DesktopCase(unittest.TestCase):
         if self.with_tray:
             program.wait_for_icon(self.tray)
         return program
+
+    def start_elsewhere(self, feed=""):
+        """The same program with a server of ours, from which it reads this feed; and the server."""
+        server = Server(self.desktop.session.folder, feed)
+        self.addCleanup(server.close)
+        return self.start_program(ELSEWHERE, environment=server.environment), server
 
     def start_at_once(self):
         """A program whose bar comes without a delay."""

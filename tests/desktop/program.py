@@ -66,11 +66,6 @@ class Program:
             return condition()
         return wait.until(holds_while_running, limit, what)
 
-    def wait_until_polling(self):
-        """Waits until it has looked at the settings, for the first application that it saw."""
-        self.wait_until(lambda: any(line in _read(self._output_path) for line in _EXPECTED_LINES),
-                        5.0, "the program has looked at its settings")
-
     def wait_for_line(self, line, limit=5.0):
         self.wait_until(lambda: line in self.output(), limit, f"the program says {line!r}")
 

@@ -5,11 +5,9 @@ import json
 import wait
 from controls import Controls
 from program import settings_path
-from windows import Rect
 
 TITLE = "Corvane Quillet Settings"
 SIZE = (500, 450)
-KNOB = 18  # The slider's, in points: its middle goes from one half of it to the other.
 
 
 class SettingsWindow:

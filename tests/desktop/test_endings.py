@@ -32,13 +32,6 @@ class SignalTest(NoteCase):
         wait.until(lambda: not self.tray.items_of(program.pid), 3.0, "the icon is gone")
         self.assertEqual(program.output(), [])
 
-    def test_each_ends_it_while_the_bar_is_up(self):
-        for number in SIGNALS:
-            with self.subTest(number.name):
-                program = self.start_with_bar()
-                program.process.send_signal(number)
-                self.assert_ended(program)
-
     def test_each_ends_it_while_it_posts_a_shortcut_and_no_key_stays_down(self):
         """The click is followed by 0.1 s of waiting, then the chord."""
         for number, moment in zip(SIGNALS, (0.02, 0.1, 0.12)):
@@ -49,17 +42,6 @@ class SignalTest(NoteCase):
                 program.process.send_signal(number)
                 self.assert_ended(program)
                 self.assertEqual(self.hands.down(), [])
-
-    def test_it_ends_while_it_waits_for_a_modifier_to_be_released(self):
-        program = self.start_with_bar()
-        self.hands.hold("Shift_L")
-        try:
-            program.click("Bold")
-            time.sleep(0.3)
-            program.process.send_signal(signal.SIGHUP)
-            self.assertEqual(program.wait_for_end(), 0)
-        finally:
-            self.hands.release("Shift_L")
 
 
 class LostServerTest(unittest.TestCase):

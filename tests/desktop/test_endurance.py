@@ -5,8 +5,6 @@ import signal
 import bar
 import wait
 from case import NoteCase, SCREEN
-from mousepad import Mousepad
-from windows import Rect
 
 WORDS = ["one", "two", "three", "four", "five", "six", "seven", "eight", "nine", "ten"]
 SELECTIONS = 50
@@ -62,19 +60,3 @@ class EnduranceTest(NoteCase):
         wait.until(lambda: self.text.selected_text() == "three,", 5.0, "the application is back")
         program.wait_for_bar_at(bar.expected_frame(
             self.text.extents(*self.text.selection()), SCREEN, first=False), 8.0)
-
-    def test_an_application_that_dies_with_its_selection_is_forgotten_for_the_next_one(self):
-        program = self.start_at_once()
-        for turn in range(2):
-            editor = Mousepad(self.desktop, "Short lived words.\n", Rect(300, 300, 500, 200))
-            words = self.desktop.select(editor.text, "lived")
-            program.wait_for_bar_at(bar.expected_frame(
-                editor.text.extents(*words), SCREEN, first=turn == 0))
-            editor.process.kill()
-            self.desktop.session.end(editor.process)
-            # The next one has the same words in the same place.
-            program.wait_until_hidden()
-        self.desktop.focus(self.note)
-        words = self.desktop.select(self.text, "five")
-        program.wait_for_bar_at(bar.expected_frame(
-            self.text.extents(*words), SCREEN, first=False))

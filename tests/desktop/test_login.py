@@ -11,7 +11,6 @@ from entries import Entries
 
 # Everything that means something to those who read an Exec line, on the way to the program.
 FOLDERS = ("my \"apps\" \\ $HOME `id`; 'ü' & a=b", "100%u $0 a=b %%")
-OFF = ("Hidden=true", "X-GNOME-Autostart-enabled=false")
 
 
 class LoginTest(DesktopCase):
@@ -63,11 +62,3 @@ class LoginTest(DesktopCase):
                 wait.until(lambda: self.running(copy) == [pid], 5.0, "the second start has ended")
                 os.kill(pid, signal.SIGTERM)
                 wait.until(lambda: not self.running(copy), 5.0, "the program has ended")
-
-    def test_an_entry_that_the_desktop_turned_off_stays_off(self):
-        for line in OFF:
-            with self.subTest(line):
-                self.write_entry(f"Exec={EXECUTABLE}", line)
-                program = self.start_program()
-                wait.until(lambda: not os.path.exists(self.entry), 5.0, "the entry is gone")
-                program.end()

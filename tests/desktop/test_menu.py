@@ -4,9 +4,7 @@ import shutil
 
 import wait
 from case import DesktopCase
-from entries import Entries
 from keys import RIGHT_BUTTON
-from tray import Tray
 
 SEPARATOR = "-"
 ENTRIES = [
@@ -31,16 +29,6 @@ class MenuTest(DesktopCase):
         shortcuts = {entry.label: entry.shortcut for entry in menu if entry.shortcut}
         self.assertEqual(shortcuts, {"Settings...": "Control+,",
                                      "Quit Corvane Quillet": "Control+Q"})
-
-    def test_quit_ends_it_with_the_bar(self):
-        note = self.open_note("A few words.")
-        program = self.start_at_once()
-        self.desktop.select(note.text, "few")
-        program.wait_for_bar()
-        program.wait_for_icon(self.tray).choose("Quit Corvane Quillet")
-        self.assertEqual(program.wait_for_end(), 0)
-        self.assertEqual(self.windows.floating_of(program.pid), [])
-        wait.until(lambda: not self.tray.items_of(program.pid), 3.0, "the icon is gone")
 
     def test_checking_accessibility_says_that_it_is_granted(self):
         program = self.start_program()
@@ -70,19 +58,6 @@ class LateTrayTest(DesktopCase):
     """Desktops whose tray comes late, or comes back after a crash."""
 
     with_tray = False
-
-    def test_the_icon_appears_once_with_a_tray_that_comes_later_and_with_the_next_one(self):
-        entries = Entries(self.desktop, "plain")
-        self.addCleanup(self.desktop.session.end, entries.process)
-        program = self.start_program()
-        program.wait_until_polling()
-        for _ in range(2):
-            tray = Tray(self.desktop.session)
-            self.addCleanup(tray.close)
-            item = program.wait_for_icon(tray)
-            self.assertEqual(len(item.menu()), len(ENTRIES))
-            self.assertEqual(len(tray.items_of(program.pid)), 1)
-            tray.close()
 
     def test_an_old_tray_and_the_next_one_embed_the_icon(self):
         command = next(tray for tray in OLD_TRAYS if shutil.which(tray[0]))

@@ -1,58 +1,11 @@
-"""Where the bar goes at the edges of the screen, over a plain editor."""
+"""Where the bar goes on two screens, and on dense ones, over a plain editor."""
 
 import bar
-from case import DesktopCase, SCREEN
+from case import DesktopCase
 from mousepad import Mousepad
 from windows import Rect
 
 TEXT = "First line of the document\n" + "\n" * 12 + " " * 80 + "end\n"
-
-
-class PlacementTest(DesktopCase):
-
-    @classmethod
-    def setUpClass(cls):
-        super().setUpClass()
-        cls.editor = Mousepad(cls.desktop, TEXT)
-
-    def setUp(self):
-        super().setUp()
-        self.program = None
-
-    def select_at(self, window, words):
-        """Puts the editor somewhere and selects words there; gives the selection's rectangle."""
-        self.editor.place(window)
-        self.desktop.put_caret(self.editor.text, 0)
-        if self.program is None:
-            self.program = self.start_at_once()
-        return self.editor.text.extents(*self.desktop.select(self.editor.text, words))
-
-    def test_below_a_selection_on_the_screens_first_line(self):
-        selection = self.select_at(Rect(200, 0, 800, 500), "line")
-        self.assertLess(selection.y, bar.HEIGHT + bar.GAP + bar.MARGIN)
-        frame = self.program.wait_for_bar_at(bar.expected_frame(selection, SCREEN, first=True))
-        self.assertEqual(frame.y, selection.bottom + bar.GAP)
-
-    def test_on_the_screen_at_its_right_and_left_edges(self):
-        selection = self.select_at(Rect(200, 200, 1000, 500), "end")
-        self.assertGreater(selection.x, SCREEN.right - bar.FIRST_WIDTH)
-        self.program.wait_for_bar_at(bar.expected_frame(selection, SCREEN, first=True))
-        self.desktop.deselect(self.editor.text)
-        self.program.wait_until_hidden()
-
-        selection = self.select_at(Rect(-4, 200, 800, 500), "First")
-        self.assertLess(selection.x, bar.MARGIN)
-        frame = self.program.wait_for_bar_at(bar.expected_frame(selection, SCREEN, first=False))
-        self.assertEqual(frame.x, bar.MARGIN)
-
-    def test_a_window_that_moves_keeps_its_bar_where_it_was_until_the_text_changes(self):
-        selection = self.select_at(Rect(200, 200, 800, 500), "document")
-        before = self.program.wait_for_bar_at(bar.expected_frame(selection, SCREEN, first=True))
-        self.editor.place(Rect(300, 300, 800, 500))
-        self.assertEqual(self.program.bar_frame(), before)
-        words = self.desktop.select(self.editor.text, "the")
-        self.program.wait_for_bar_at(bar.expected_frame(
-            self.editor.text.extents(*words), SCREEN, first=False))
 
 
 class SecondScreenTest(DesktopCase):

@@ -39,13 +39,6 @@ class RestartTest(DesktopCase):
                 self.desktop.accessibility = wait.until(self.accessibility_bus, 5.0, "a bus is up")
                 self.play_in_new_note(program)
 
-    def test_an_application_that_outlives_the_registry_is_still_read(self):
-        program = self.start_program()
-        note = self.open_note("Only a few words.")
-        self.play_main_job(program, note)
-        self.desktop.session.kill("at-spi2-registryd")
-        self.play_main_job(program, note)
-
     def test_the_window_manager(self):
         program = self.start_program()
         note = self.open_note("Only a few words.")

@@ -1,7 +1,5 @@
 """The road of one selection in a real notes application, from the word to its bold letters."""
 
-import time
-
 import bar
 import wait
 from case import NoteCase, SCREEN
@@ -9,10 +7,6 @@ from case import NoteCase, SCREEN
 BODY = """The quick brown fox jumps over the lazy dog.
 
 Another paragraph has other words to select."""
-
-DELAY = 0.3  # Between the selection's last change and the bar; also between its end and the hiding.
-POLL = 0.25
-SLACK = 0.5  # What a busy machine may take beyond that.
 
 
 class RoadTest(NoteCase):
@@ -25,16 +19,6 @@ class RoadTest(NoteCase):
 
     def expected(self, words, first):
         return bar.expected_frame(self.text.extents(*words), SCREEN, first)
-
-    def test_a_word_selected_by_keys_brings_the_bar_after_the_delay(self):
-        words = self.desktop.select(self.text, "brown")
-        selected = time.monotonic()
-        frame = self.program.wait_for_bar()
-        took = time.monotonic() - selected
-        self.assertGreater(took, DELAY - 0.1)
-        self.assertLess(took, DELAY + POLL + SLACK)
-        self.assertEqual(frame, self.expected(words, first=True))
-        self.assert_at_work_in(self.note)
 
     def test_the_bar_stands_8_points_above_what_the_picture_shows_selected(self):
         words = self.desktop.select_by_dragging(self.text, "lazy")
@@ -91,14 +75,3 @@ class RoadTest(NoteCase):
         windows = lambda: self.windows.floating_of(self.program.pid)
         self.program.wait_until(lambda: len(windows()) == 2, 3.0, "the tooltip is there")
         self.assert_at_work_in(self.note)
-
-    def test_every_button_is_where_its_name_is_told(self):
-        for words, wide in (("quick", False), ("select", True)):
-            self.desktop.select(self.text, words)
-            frame = self.program.wait_for_bar_at(
-                self.expected(self.text.selection(), first=not wide))
-            for name in bar.BUTTONS:
-                told = self.desktop.accessibility.extents_of(self.program.pid, name, frame)
-                middle = bar.button(name, frame).centre
-                self.assertTrue(told.contains(*middle), f"{name}: {told} without {middle}")
-                self.assertEqual(told.height, 26, name)

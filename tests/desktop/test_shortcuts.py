@@ -1,4 +1,4 @@
-"""Every button of the bar, clicked over a field of a foreign application."""
+"""Every button of the bar and every heading, clicked over a field of a foreign application."""
 
 import bar
 from case import DesktopCase
@@ -24,6 +24,8 @@ SHORTCUTS = {
     "Increase Text Size": "Control+]",
     "Remove Formatting": "Control+Shift+b",
 }
+LEVELS = {"Title": "Control+Shift+t", "Heading": "Control+Shift+h",
+          "Subheading": "Control+Shift+j", "Body": "Control+Shift+b"}
 
 
 class ShortcutsTest(DesktopCase):
@@ -39,6 +41,14 @@ class ShortcutsTest(DesktopCase):
             with KeyLog(self.desktop.session.display) as log:
                 program.click(name)
                 log.wait_for([chord])
+        for level, chord in LEVELS.items():
+            program.click("Heading")
+            picker = program.wait_for_picker()
+            row = self.desktop.accessibility.extents_of(program.pid, level, within=picker)
+            with KeyLog(self.desktop.session.display) as log:
+                self.hands.click(*row.centre)
+                log.wait_for([chord])
+            program.wait_until(lambda: program.picker_frame() is None, 2.0, "the picker is closed")
         self.assertEqual(program.bar_frame(), first)
         self.assert_at_work_in(entries)
         self.assertEqual(program.output(), [])

@@ -26,9 +26,6 @@ class Rect:
     def centre(self):
         return self.x + self.width / 2, self.y + self.height / 2
 
-    def contains(self, x, y):
-        return self.x <= x < self.right and self.y <= y < self.bottom
-
     def touches(self, other):
         return (self.x < other.right and other.x < self.right
                 and self.y < other.bottom and other.y < self.bottom)

@@ -9,26 +9,21 @@ using HttpError = FeedbackError::HttpError;
 using InvalidResponse = FeedbackError::InvalidResponse;
 using InvalidUrl = FeedbackError::InvalidUrl;
 
-TEST_F(Sending, EveryStatusOf200IsSuccessAndEveryOtherAnError) {
+TEST_F(Sending, EveryStatusOf200IsSuccessAndEveryOtherAnErrorRedirectsIncluded) {
     for (const int status : {200, 201, 299}) {
-        EXPECT_EQ(sendTo(server.endpoint("https", {.status = status})).id, u"r1") << status;
+        EXPECT_EQ(send(endpoint({.status = status, .body = R"({"id":"r1"})"})).id, u"r1") << status;
     }
     for (const int status :
-         {300, 400, 401, 403, 404, 405, 409, 410, 418, 422, 500, 501, 503, 599}) {
-        const Outcome result = sendTo(server.endpoint("https", {.status = status, .body = "nö"}));
+         {300, 301, 303, 307, 308, 400, 401, 403, 404, 405, 409, 410, 422, 500, 503, 599}) {
+        server.requests();
+        const Outcome result = send(endpoint(
+            {.status = status,
+             .body = "nö",
+             .header = QStringLiteral("Location:/elsewhere?status=200&body=e30=")}));
         EXPECT_EQ(result.error, FeedbackError::Case(HttpError{status, QStringLiteral("nö")}))
             << status << ": " << result.text.toStdString();
         EXPECT_EQ(result.text, QStringLiteral("HTTP %1: nö").arg(status));
-    }
-}
-
-TEST_F(Sending, ARedirectIsAnErrorAndLeadsNowhere) {
-    for (const int status : {301, 302, 303, 307, 308}) {
-        const Outcome result = sendTo(server.endpoint(
-            "https", {.status = status,
-                      .body = "moved",
-                      .header = QStringLiteral("Location:/elsewhere?status=200&body=e30=")}));
-        EXPECT_EQ(result.error, FeedbackError::Case(HttpError{status, QStringLiteral("moved")}));
+        EXPECT_EQ(server.requests().size(), 1) << status;
     }
 }
 
@@ -36,48 +31,42 @@ TEST_F(Sending, AnErrorShowsTheFirst200CharactersOfItsBody) {
     const QString character =
         QStringLiteral("👩🏽‍💻🇩🇪e\u0301\u0323🏳️‍🌈각");
     const QString sent = character.repeated(50); // 250 as a reader counts them
-    const Outcome result = sendTo(server.endpoint("https", {.status = 404, .body = sent.toUtf8()}));
+    const Outcome result = send(endpoint({.status = 404, .body = sent.toUtf8()}));
     EXPECT_EQ(result.error, FeedbackError::Case(HttpError{404, sent}));
     EXPECT_EQ(result.text, QStringLiteral("HTTP 404: ") + character.repeated(40));
 }
 
 TEST_F(Sending, OnlyAnObjectWithATextualIdNamesARecord) {
-    EXPECT_EQ(sendTo(server.endpoint("https", {.body = " {\"x\":[1],\"id\":\"ä\\u00df 1\"}\n"})).id,
-              u"äß 1");
+    EXPECT_EQ(send(endpoint({.body = " {\"x\":[1],\"id\":\"ä\\u00df 1\"}\n"})).id, u"äß 1");
     for (const char* body : {R"({"id":7})", R"({"id":null})", R"({"ID":"r1"})", "{}", R"(["id"])",
                              R"("id")", "null", R"([{"id":"r1"}])"}) {
-        const Outcome result = sendTo(server.endpoint("https", {.body = body}));
+        const Outcome result = send(endpoint({.body = body}));
         EXPECT_EQ(result.error, FeedbackError::Case(InvalidResponse{})) << body;
         EXPECT_EQ(result.text, u"Ungültige Antwort vom Feedback-Server");
     }
 }
 
-TEST_F(Sending, AConnectionThatDropsIsAnErrorAndTheRecordIsNotSentAgain) {
-    EXPECT_EQ(sendTo(server.endpoint("https", {.missing = 3})).transport,
-              QNetworkReply::RemoteHostClosedError);
-    for (const char* port : {"http", "https"}) {
-        const Outcome result = sendTo(server.endpointWithoutAnswer(port, "drop"));
-        EXPECT_TRUE(result.transport) << port;
-        EXPECT_EQ(result.text, u"Connection closed");
+TEST_F(Sending, AConnectionThatDropsOrStaysSilentIsAnErrorAndTheRecordIsNotSentAgain) {
+    const struct {
+        QString endpoint;
+        QString text;
+    } rows[]{{endpoint({.body = "{}", .missing = 1}), QStringLiteral("Connection closed")},
+             {endpoint({.end = QStringLiteral("drop")}), QStringLiteral("Connection closed")},
+             {endpoint({.end = QStringLiteral("silent")}),
+              QStringLiteral("Socket operation timed out")}};
+    for (const auto& row : rows) {
+        const Outcome result = send(row.endpoint, std::chrono::milliseconds(500));
+        EXPECT_TRUE(result.transport);
+        EXPECT_EQ(result.text, row.text);
+        EXPECT_EQ(server.requests().size(), 1);
     }
-}
-
-TEST_F(Sending, TheTimeLimitEndsEveryKindOfSilence) {
-    constexpr std::chrono::milliseconds shortTime(150);
-    for (const QString& endpoint :
-         {server.endpointWithoutAnswer("https", "silent"), server.endpoint("mute")}) {
-        const Outcome result = outcome(service(endpoint, shortTime).send(payload));
-        EXPECT_EQ(result.transport, QNetworkReply::OperationCanceledError);
-        EXPECT_EQ(result.text, u"Socket operation timed out");
-    }
+    EXPECT_EQ(send(server.address("mute"), std::chrono::milliseconds(150)).transport,
+              QNetworkReply::OperationCanceledError);
 }
 
 TEST_F(Sending, ACertificateThatDoesNotHoldEndsTheConnectionBeforeAnythingIsSent) {
-    EXPECT_EQ(sendTo(server.endpoint("https")).id, u"r1");
-    const Outcome otherName = outcome(service(server.endpoint("otherName")).send(payload));
-    const Outcome unknownAuthority =
-        outcome(FeedbackService(server.endpoint("https")).send(payload));
-    for (const Outcome& result : {otherName, unknownAuthority}) {
+    for (const char* port : {"other", "stranger"}) {
+        const Outcome result = send(server.address(port));
         EXPECT_EQ(result.transport, QNetworkReply::SslHandshakeFailedError);
         EXPECT_THAT(result.text.toStdString(), testing::HasSubstr("certificate"));
     }
@@ -86,17 +75,15 @@ TEST_F(Sending, ACertificateThatDoesNotHoldEndsTheConnectionBeforeAnythingIsSent
 
 TEST_F(Sending, AnEndpointThatIsNoUrlOrNoServerFailsByItself) {
     for (const QString& endpoint :
-         {QString(), QStringLiteral("https://exa mple/"), QStringLiteral("https://[::1/"),
-          QStringLiteral("http://h:x/")}) {
-        const Outcome result = outcome(service(endpoint).send(payload));
+         {QString(), QStringLiteral("https://exa mple/"), QStringLiteral("http://h:x/")}) {
+        const Outcome result = send(endpoint);
         EXPECT_EQ(result.error, FeedbackError::Case(InvalidUrl{})) << endpoint.toStdString();
         EXPECT_EQ(result.text, u"Ungültige Feedback-URL");
     }
-    EXPECT_EQ(outcome(service(QStringLiteral("file:///etc/hostname")).send(payload)).error,
+    EXPECT_EQ(send(QStringLiteral("file:///etc/hostname")).error,
               FeedbackError::Case(InvalidResponse{}));
-    for (const QString& endpoint : {QStringLiteral("feedback"), QStringLiteral("gopher://host/"),
-                                    QStringLiteral("https:///records")}) {
-        const Outcome result = outcome(service(endpoint).send(payload));
+    for (const QString& endpoint : {QStringLiteral("feedback"), QStringLiteral("https:///x")}) {
+        const Outcome result = send(endpoint);
         EXPECT_TRUE(result.transport) << endpoint.toStdString();
         EXPECT_FALSE(result.text.isEmpty());
     }

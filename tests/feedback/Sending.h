@@ -1,9 +1,12 @@
 #pragma once
 
+#include "fakes/HttpsServer.h"
+#include "feedback/ErrorText.h"
 #include "feedback/FeedbackError.h"
-#include "feedback/FeedbackServer.h"
 #include "feedback/FeedbackService.h"
+#include "feedback/TransportError.h"
 
+#include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <gtest/gtest.h>
 
@@ -17,39 +20,63 @@ struct Outcome {
     QString id;
     std::optional<FeedbackError::Case> error;
     std::optional<QNetworkReply::NetworkError> transport;
-    bool notJson = false;
     QString text;
 };
 
-Outcome outcome(QCoro::Task<QString> task);
+/// Waiting for a task in a nested event loop never ends when the task throws; this one does not.
+inline QCoro::Task<Outcome> settled(QCoro::Task<QString> task) {
+    Outcome result;
+    try {
+        result.id = co_await task;
+    } catch (const std::exception& error) {
+        result.text = localizedDescription(error);
+        if (const auto* own = dynamic_cast<const FeedbackError*>(&error)) {
+            result.error = own->kind();
+        } else if (const auto* transport = dynamic_cast<const TransportError*>(&error)) {
+            result.transport = transport->code();
+        }
+    }
+    co_return result;
+}
 
-/// A feedback server and a session that trusts its certificate.
+/// A feedback server, and a record for it.
 class Sending : public testing::Test {
 protected:
+    using Wish = fakes::HttpsServer::Wish;
+
     /// One server for all of them: making certificates takes its time.
-    static void SetUpTestSuite() { shared = std::make_unique<FeedbackServer>(); }
+    static void SetUpTestSuite() { shared = std::make_unique<fakes::HttpsServer>(); }
     static void TearDownTestSuite() { shared.reset(); }
     void SetUp() override { server.requests(); }
 
+    QString endpoint(Wish wish = {.body = R"({"id":"r1"})"}) const {
+        return server.address("https", wish);
+    }
+
     FeedbackService service(const QString& endpoint,
-                            std::chrono::milliseconds timeout = std::chrono::seconds(10));
+                            std::chrono::milliseconds timeout = std::chrono::seconds(10)) {
+        return FeedbackService(endpoint,
+                               {[this]() -> QNetworkAccessManager& { return session; }, timeout});
+    }
 
-    /// Sends one record there and expects that the server got it exactly once.
-    Outcome sendTo(const QString& endpoint);
+    Outcome send(const QString& endpoint,
+                 std::chrono::milliseconds timeout = std::chrono::seconds(10)) {
+        return QCoro::waitFor(settled(service(endpoint, timeout).send(payload)));
+    }
 
-    /// Sends this record and answers the request as the server read it.
-    QJsonObject requestFor(const FeedbackService::Payload& payload);
+    /// The one request that the server got since the last question.
+    QJsonObject onlyRequest() {
+        const QJsonArray requests = server.requests();
+        EXPECT_EQ(requests.size(), 1);
+        return requests.first().toObject();
+    }
 
-    static inline std::unique_ptr<FeedbackServer> shared;
-    FeedbackServer& server = *shared;
-    TrustingSession session{[this] { return server.authority(); }};
+    static inline std::unique_ptr<fakes::HttpsServer> shared;
+    fakes::HttpsServer& server = *shared;
+    QNetworkAccessManager session;
     FeedbackService::Payload payload{
-        QStringLiteral("Hallo"),
-        QStringLiteral("anna"),
-        QStringLiteral("1.0.2 (7)"),
-        QStringLiteral("macOS 12.0.0"),
-        QStringLiteral("Fenster"),
-        QStringLiteral("eins\nzwei"),
+        QStringLiteral("Hallo"),   QStringLiteral("anna"),       QStringLiteral("1.0.2 (7)"),
+        QStringLiteral("macOS 12.0.0"), QStringLiteral("Fenster"), QStringLiteral("eins\nzwei"),
         std::nullopt,
     };
 };

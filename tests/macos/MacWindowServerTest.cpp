@@ -131,18 +131,4 @@ TEST_F(MacWindowServerTest,
     EXPECT_FALSE(bold.underMouse()) << "the bar went from under the pointer";
 }
 
-TEST_F(MacWindowServerTest, AFloatingWindowThatMayHaveTheKeyboardGetsIt) {
-    windowServer.makeFloating(window, KeyboardFocus::WhenInFront);
-    windowServer.bringToFront(window, {});
-    EXPECT_EQ(native, (std::vector<std::string>{"floating", "key"}));
-    EXPECT_FALSE(window.windowFlags() & Qt::WindowDoesNotAcceptFocus);
-}
-
-TEST_F(MacWindowServerTest, AnOrdinaryWindowKeepsItsLevel) {
-    window.showMinimized();
-    windowServer.bringToFront(window, {});
-    EXPECT_EQ(native, std::vector<std::string>{"key"});
-    EXPECT_FALSE(window.isMinimized());
-}
-
 } // namespace

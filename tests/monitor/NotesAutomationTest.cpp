@@ -47,18 +47,6 @@ using NotesAutomationDeathTest = NotesAutomationTest;
 
 } // namespace
 
-/// Which keys each button and level posts is seen where they arrive, by the tests on a desktop.
-TEST_F(NotesAutomationTest, AHeadingLevelThatDoesNotExistIsBodyText) {
-    const Shortcut body = NotesAutomation::headingShortcut(0);
-    EXPECT_EQ(body, NotesAutomation::formatShortcut(TextFormat::removeFormatting));
-    constexpr auto smallest = std::numeric_limits<bar::HeadingLevel>::min();
-    for (const bar::HeadingLevel level : {bar::HeadingLevel{4}, bar::HeadingLevel{-1}, smallest}) {
-        EXPECT_EQ(NotesAutomation::headingShortcut(level), body) << level;
-    }
-    EXPECT_EQ(NotesAutomation::formatShortcut(TextFormat::heading),
-              NotesAutomation::headingShortcut(1));
-}
-
 TEST_F(NotesAutomationTest, PostsTwoEventsATenthOfASecondAfterAskingTheTargetToTheFront) {
     NotesAutomation::simulateKeyboardShortcut(11, 0x100000);
     EXPECT_THAT(platform.record, ElementsAre("activate 42", "key down 11", "key up 11"));

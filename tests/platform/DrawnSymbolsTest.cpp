@@ -115,16 +115,3 @@ TEST(DrawnSymbols, StrokesOfTheBarBeginOnAPixel) {
     EXPECT_EQ(twice, std::vector<int>(3, 255));
 }
 
-TEST(DrawnSymbols, PointsTimesRatioMakesThePixelsAndEachIsRenderedOnce) {
-    DrawnSymbols symbols;
-    const QImage twice = symbols.mask(u"link"_s, {14, SymbolWeight::Bold}, 2);
-    EXPECT_EQ(twice.size(), QSize(36, 36));
-    EXPECT_EQ(symbols.mask(u"link"_s, {14, SymbolWeight::Bold}, 2).constBits(), twice.constBits());
-    QImage large = symbols.mask(u"link"_s, {28, SymbolWeight::Bold}, 1);
-    EXPECT_EQ(large.devicePixelRatio(), 1);
-    large.setDevicePixelRatio(2);
-    EXPECT_EQ(twice, large);
-    EXPECT_NE(symbols.mask(u"app"_s, {14, SymbolWeight::Bold}, 2), twice);
-    EXPECT_EQ(symbols.mask(u"chevron.down"_s, {8, SymbolWeight::Bold}, 1).size(), QSize(8, 10));
-}
-

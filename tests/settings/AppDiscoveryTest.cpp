@@ -78,20 +78,6 @@ TEST(AppDiscovery, TakesEachInstalledApplicationOnceFromTheFirstPlaceThatHasIt) 
     EXPECT_EQ(apps[1].icon->nameOrPath, QStringLiteral("/one/Twice.app"));
 }
 
-TEST(AppDiscovery, SortsByLowerCaseCodePointsAndStably) {
-    std::vector<AppInfo> apps{
-        app(QStringLiteral("zeta")),
-        app(QStringLiteral("Éclair")),
-        app(QStringLiteral("beta"), QStringLiteral("1")),
-        app(QString::fromUcs4(U"\U0001F600")), // a UTF-16 surrogate would sort before U+FF21
-        app(QString::fromUcs4(U"\uFF21")),
-        app(QStringLiteral("Alpha")),
-        app(QStringLiteral("BETA"), QStringLiteral("2")),
-    };
-    settings::sortByName(apps);
-    EXPECT_THAT(names(apps), ElementsAre("Alpha", "beta", "BETA", "zeta", "Éclair", "Ａ", "😀"));
-}
-
 TEST(AppDiscovery, FiltersByNameOrElseByIdentifier) {
     const std::vector<AppInfo> apps{
         app(QStringLiteral("Calendar"), QStringLiteral("org.x.days")),

@@ -176,18 +176,6 @@ TEST_F(AppSettingsManagerTest, TheListKeepsItsOrderAndWritesOnlyWhatItMust) {
     EXPECT_EQ(defaults.values[allowedApps], DefaultsValue(QStringList{QStringLiteral("b")}));
 }
 
-TEST_F(AppSettingsManagerTest, EachStartRenewsTheLoginItemsState) {
-    using Status = platform::LoginItemStatus;
-    for (const Status status :
-         {Status::Enabled, Status::NotRegistered, Status::RequiresApproval, Status::NotFound}) {
-        loginItem.current = status;
-        loginItem.requests.clear();
-        const bool enabled = status == Status::Enabled;
-        EXPECT_EQ(start().startAtLogin, enabled);
-        EXPECT_THAT(loginItem.requests, ElementsAre(enabled));
-    }
-}
-
 TEST_F(AppSettingsManagerTest, AFailingLoginItemIsLoggedAndTheChoiceKept) {
     AppSettingsManager& store = start();
     loginItem.error = QStringLiteral("100% %1 wrong");

@@ -67,57 +67,6 @@ TEST_F(AppsSettings, ShowTheListOnlyWhileTheUserChooses) {
     EXPECT_EQ(allowed(), QStringList{QStringLiteral("com.apple.Notes")});
 }
 
-TEST_F(AppsSettings, EachWayToFlipARowDoesItOnce) {
-    install(QStringLiteral("Mail"));
-    install(QStringLiteral("Maps"));
-    openList();
-    const QString mail = QStringLiteral("org.example.Mail");
-    std::vector<qsizetype> counts;
-    const auto changes =
-        store_.allowedApps.observe([&](const auto& next) { counts.push_back(next.size()); });
-
-    click(mail); // the row, where its identifier stands
-    EXPECT_TRUE(shows(QStringLiteral("2 app(s) selected")));
-    const auto* control = list().row(0)->findChild<QAbstractButton*>();
-    EXPECT_TRUE(control->isChecked());
-    click(QRect(control->mapTo(window_.get(), QPoint()), control->size()).center());
-    EXPECT_FALSE(control->isChecked());
-    list().setFocus();
-    press({Qt::Key_Down});
-    press({Qt::Key_Return});
-    EXPECT_EQ(allowed().back(), QStringLiteral("org.example.Maps"));
-    press({Qt::Key_Up});
-    press({Qt::Key_Space});
-    EXPECT_EQ(allowed().back(), mail);
-    EXPECT_THAT(counts, ElementsAre(2, 1, 2, 3));
-    EXPECT_TRUE(shows(QStringLiteral("3 app(s) selected")));
-
-    store_.removeApp(mail); // from elsewhere
-    EXPECT_FALSE(control->isChecked());
-}
-
-TEST_F(AppsSettings, TypingFiltersAtOnceAndTheTextStaysWhileOtherTabsAreOpen) {
-    for (const char* name : {"Mail", "Calendar", "Maps"}) {
-        install(QString::fromLatin1(name));
-    }
-    openList();
-    EXPECT_THAT(rows(), ElementsAre("Calendar", "Mail", "Maps"));
-    click(search);
-    type(QStringLiteral("ma"));
-    EXPECT_THAT(rows(), ElementsAre("Mail", "Maps"));
-    openTab(QStringLiteral("Behavior"));
-    openTab(QStringLiteral("Apps"));
-    EXPECT_EQ(dynamic_cast<QLineEdit&>(part(search)).text(), QStringLiteral("ma"));
-    EXPECT_THAT(rows(), ElementsAre("Mail", "Maps"));
-    click(search);
-    type(QStringLiteral("x"));
-    EXPECT_THAT(rows(), ElementsAre());
-    for (int i = 0; i < 3; ++i) {
-        press({Qt::Key_Backspace});
-    }
-    EXPECT_THAT(rows(), ElementsAre("Calendar", "Mail", "Maps"));
-}
-
 TEST_F(AppsSettings, AreLookedForEachTimeTheWindowIsShown) {
     install(QStringLiteral("Mail"));
     openList();

@@ -94,25 +94,3 @@ TEST_F(Settings, AStoredDelayBesideTheStopsIsShownAndLeftAlone) {
     }
 }
 
-TEST_F(Settings, TheGeneralTabSwitchesTheLoginItemAndAsksForTheFeedbackForm) {
-    open();
-    openTab(QStringLiteral("General"));
-    EXPECT_TRUE(shows(QStringLiteral("Corvane Quillet v1.0.2")));
-    EXPECT_TRUE(shows(QStringLiteral("A floating formatting bar for text editing")));
-    fake_.loginItem.requests.clear();
-    click(QStringLiteral("Start at Login")); // on its label: the whole row flips the switch
-    EXPECT_THAT(fake_.loginItem.requests, testing::ElementsAre(true));
-    store_.startAtLogin = false;
-    EXPECT_THAT(fake_.loginItem.requests, testing::ElementsAre(true, false));
-
-    int asked = 0;
-    const auto writes = fake_.userDefaults.writes.size();
-    const auto observer = core::NotificationCenter::defaultCenter().addObserver(
-        QStringLiteral("showFeedbackSheet"), [&] { ++asked; });
-    click(QStringLiteral("Feedback senden …"));
-    EXPECT_EQ(asked, 1);
-    press({Qt::Key_Space}); // it has the keyboard now
-    EXPECT_EQ(asked, 2);
-    EXPECT_EQ(fake_.userDefaults.writes.size(), writes);
-}
-

@@ -90,18 +90,6 @@ TEST_F(ShortcutRecorder, TakesWhicheverKeyComesWithAModifierAndNoOther) {
     EXPECT_EQ(window.presses, 0);
 }
 
-TEST_F(ShortcutRecorder, PassesKeysOnWhileIdleButNoModifierAlone) {
-    click(recorder);
-    press({Qt::Key_A, Qt::ControlModifier, aKey});
-    const KeyCounter window(*window_);
-    press({Qt::Key_Shift, Qt::ShiftModifier});
-    EXPECT_EQ(window.presses, 0);
-    press({Qt::Key_A, Qt::ShiftModifier, aKey});
-    press({Qt::Key_Escape});
-    EXPECT_EQ(window.presses, 2);
-    EXPECT_EQ(stored(), std::pair(std::uint16_t{0}, std::uint64_t{0x100000}));
-}
-
 TEST_F(ShortcutRecorder, RecordsTheShortcutThatElseClosesTheWindow) {
     fake_.keyPositions[0] = 13;
     const auto press = [this] {
@@ -129,17 +117,6 @@ TEST_F(ShortcutRecorder, WritesTheKeyThenTheModifiersThenThatItIsDone) {
     press({Qt::Key_A, Qt::ControlModifier, aKey});
     EXPECT_THAT(order, ElementsAre("key", "flags", "done"));
     EXPECT_TRUE(shows(QStringLiteral("⌘A")));
-}
-
-TEST_F(ShortcutRecorder, ASecondClickCallsItOff) {
-    const auto before = stored();
-    const auto writes = fake_.userDefaults.writes.size();
-    click(recorder);
-    click(recorder);
-    press({Qt::Key_A, Qt::ControlModifier, aKey});
-    EXPECT_TRUE(shows(QStringLiteral("⌥⌘F")));
-    EXPECT_EQ(stored(), before);
-    EXPECT_EQ(fake_.userDefaults.writes.size(), writes);
 }
 
 TEST_F(ShortcutRecorder, IsReachedAndUsedWithoutAPointer) {

@@ -23,15 +23,6 @@ struct SlashMenu : testing::Test {
 
 } // namespace
 
-TEST(SlashCommand, IsFoundByItsExactTitleOnly) {
-    for (const auto command : slash::allSlashCommands) {
-        EXPECT_EQ(slash::slashCommand(slash::rawValue(command)), command);
-    }
-    EXPECT_FALSE(slash::slashCommand(u"heading 1"));
-    EXPECT_FALSE(slash::slashCommand(u"Table "));
-    EXPECT_FALSE(slash::slashCommand(u""));
-}
-
 TEST_F(SlashMenu, SearchesTitlesAndDescriptionsIgnoringCaseAndShortcutsExactly) {
     using enum SlashCommand;
     EXPECT_THAT(search(QString()), ElementsAreArray(slash::allSlashCommands));
@@ -42,13 +33,6 @@ TEST_F(SlashMenu, SearchesTitlesAndDescriptionsIgnoringCaseAndShortcutsExactly) 
     EXPECT_THAT(search(QStringLiteral("1.")), ElementsAre(numberedList));
     EXPECT_THAT(search(QStringLiteral("-")), ElementsAre(bulletList, divider));
     EXPECT_THAT(search(QStringLiteral("table ")), IsEmpty());
-}
-
-TEST_F(SlashMenu, ChoosesTheHighlightedCommandOfTheFilteredList) {
-    model.selectedIndex = 1;
-    search(QStringLiteral("list"));
-    model.selectCurrent();
-    EXPECT_THAT(chosen, ElementsAre(SlashCommand::numberedList));
 }
 
 TEST_F(SlashMenu, ASearchLeavesTheHighlightWhereItIsAndThenNothingIsChosen) {

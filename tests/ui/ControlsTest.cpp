@@ -80,39 +80,6 @@ TEST_F(Controls, RadioButtonsFollowArrowsAndTheirValue) {
     EXPECT_FALSE(buttons[0]->isChecked());
 }
 
-TEST_F(Controls, ASwitchThatAssistiveTechnologyFlipsAsksItsOwnerOnce) {
-    const auto isOn = ui::state(false);
-    int flips = 0;
-    show(ui::switchControl(QStringLiteral("Refusing"), isOn, [&] { ++flips; }));
-    auto& control = only<QAbstractButton>();
-    accessible(control).actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
-    EXPECT_EQ(flips, 1);
-    EXPECT_FALSE(control.isChecked()); // its owner did not agree
-    QTest::mouseClick(&control, Qt::LeftButton);
-    EXPECT_EQ(flips, 2);
-    isOn->set(true);
-    EXPECT_TRUE(control.isChecked());
-    EXPECT_EQ(flips, 2);
-}
-
-TEST_F(Controls, ASliderThatAssistiveTechnologySetsGoesToTheNearestStop) {
-    const auto value = ui::state(0.5);
-    show(ui::slider(value, {.maximum = 2.0, .accessibilityLabel = QStringLiteral("Delay")}));
-    auto& slider = *window_.findChild<QWidget*>();
-    QAccessibleInterface& interface = accessible(slider);
-    EXPECT_EQ(interface.role(), QAccessible::Slider);
-    QAccessibleValueInterface& range = *interface.valueInterface();
-    EXPECT_EQ(range.maximumValue(), 2.0);
-    for (const auto& [asked, stop] : {std::pair(1.74, 1.7), {9.0, 2.0}, {-1.0, 0.0}}) {
-        range.setCurrentValue(asked);
-        EXPECT_EQ(value->get(), stop);
-        EXPECT_EQ(range.currentValue(), stop);
-    }
-    slider.setEnabled(false);
-    range.setCurrentValue(1.0);
-    EXPECT_EQ(value->get(), 0.0);
-}
-
 TEST_F(Controls, AListLetsItsFormerRowsGoAtOnce) {
     const auto items = ui::state(std::vector{QStringLiteral("a"), QStringLiteral("b")});
     show(ui::list<QString>(items, {.accessibilityLabel = QStringLiteral("Letters"),

@@ -40,16 +40,6 @@ TEST_F(Elements, WhatIsNeverPlacedIsDeletedWithAllThatItHolds) {
     EXPECT_FALSE(child);
 }
 
-TEST_F(Elements, WhatIsKeptLivesAsLongAsTheWidget) {
-    const auto value = ui::state(1);
-    {
-        const ui::Element element = ui::text(QStringLiteral("a")) | ui::redrawOn(value);
-        EXPECT_GT(value.use_count(), 1);
-    }
-    EXPECT_EQ(value.use_count(), 1);
-    value->set(2); // no observer is left that would touch the widget
-}
-
 TEST_F(Elements, ModifiersWorkFromTheInsideOut) {
     ui::HostingView host(
         ui::symbol(QStringLiteral("x"), {.pointSize = 10}) | ui::identifier(inner) |

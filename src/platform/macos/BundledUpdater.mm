@@ -37,8 +37,9 @@ struct BundledUpdater::Controller {
 
 BundledUpdater::BundledUpdater(const char* framework) {
     @autoreleasepool {
-        controller_ = std::make_unique<Controller>(Strong<UpdaterController>::adopt(
-            makeController(toNSString(QString::fromUtf8(framework)))));
+        // In braces: older compilers make no aggregate of what stands in parentheses.
+        controller_ = std::make_unique<Controller>(Controller{Strong<UpdaterController>::adopt(
+            makeController(toNSString(QString::fromUtf8(framework))))});
     }
 }
 

@@ -112,19 +112,6 @@ TEST_F(AppcastUpdaterTest, looks_once_a_day_from_the_start_on_and_over_restarts)
     EXPECT_TRUE(notifications.shown.empty());
 }
 
-TEST_F(AppcastUpdaterTest, tries_a_look_that_failed_again_within_the_hour_and_says_nothing) {
-    const auto updater = makeUpdater();
-    updater->startUpdater();
-    transport.answer(AppcastError{u"no network yet"_s});
-    system.runLoop.advance(hour);
-    ASSERT_EQ(transport.asked.size(), 2U);
-    transport.answer(QByteArray("<html/>"));
-    system.runLoop.advance(hour);
-    EXPECT_EQ(transport.asked.size(), 3U);
-    EXPECT_TRUE(presenter.shown.empty());
-    EXPECT_TRUE(notifications.shown.empty());
-}
-
 TEST_F(AppcastUpdaterTest,
        keeps_silent_on_a_skipped_version_but_not_on_the_next_or_a_critical_one) {
     auto updater = makeUpdater();

@@ -20,13 +20,4 @@ TEST(LinuxSystemInfo, AVersionIsThreeNumbersOfTheDistributionElseOfTheKernel) {
     EXPECT_EQ(versionNumbers({}, {}), OperatingSystemVersion{});
 }
 
-TEST(LinuxSystemInfo, KnowsTheAccountNotWhatTheEnvironmentCallsIt) {
-    qputenv("USER", "somebody-else");
-    qputenv("LOGNAME", "somebody-else");
-    QProcess id;
-    id.start(QStringLiteral("id"), {QStringLiteral("--user"), QStringLiteral("--name")});
-    ASSERT_TRUE(id.waitForFinished());
-    EXPECT_EQ(LinuxSystemInfo().userName(), QString::fromLocal8Bit(id.readAll()).trimmed());
-}
-
 } // namespace platform

@@ -16,13 +16,7 @@ enum Type : CFTypeID {
     Element,
     Value,
     Event,
-    EventSource,
-    Port,
-    RunLoop,
-    RunLoopSource,
-    Image,
-    Context,
-    ColorSpace
+    EventSource
 };
 
 struct Object {

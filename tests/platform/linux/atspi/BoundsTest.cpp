@@ -45,12 +45,6 @@ TEST_F(BoundsTest, OnlyWhatCanBeSeenCounts) {
     EXPECT_EQ(boundsFor({1100, 700, 300, 300}), std::nullopt);
 }
 
-TEST_F(BoundsTest, PixelsBecomePoints) {
-    windows.clientArea = std::nullopt;
-    windows.geometry = platform::PixelGeometry({{{0, 0, 2000, 1600}, {0, 0, 2000, 1600}, 2, true}});
-    EXPECT_EQ(boundsFor({100, 200, 300, 40}), (Rect{50, 100, 150, 20}));
-}
-
 TEST_F(BoundsTest, SeveralPiecesAreUnited) {
     auto object = focusedText(u"one two three"_s, {{0, 3}, {4, 7}, {8, 13}});
     object.ranges.insert({0, 3}, {10, 20, 30, 10});

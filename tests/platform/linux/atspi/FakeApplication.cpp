@@ -30,13 +30,6 @@ void FakeApplication::join(const QDBusConnection& connection, QThread& server) {
         connection, [this](const QDBusMessage& call) { return answer(call); }, &server);
 }
 
-void FakeApplication::leave() {
-    responder_.reset();
-    QDBusConnection::disconnectFromBus(connection_.name());
-    // The bus notices when the last reference goes.
-    connection_ = QDBusConnection(QString());
-}
-
 void FakeApplication::set(const QString& path, const FakeObject& object) {
     const QMutexLocker locker(&mutex_);
     objects_.insert(path == u"root" ? root : path, object);

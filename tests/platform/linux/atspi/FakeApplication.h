@@ -13,10 +13,7 @@ namespace fakes {
 /// An application on the accessibility bus, made of a table of objects.
 class FakeApplication {
 public:
-    /// Joins a bus, after the first time as another run of the program.
     void join(const QDBusConnection& connection, QThread& server);
-    /// Leaves the bus. Nobody may be asking meanwhile.
-    void leave();
 
     platform::ObjectReference reference(const QString& path) const {
         return {connection_.baseService(), path};

@@ -19,12 +19,8 @@ public:
 
     /// Whether accessibility is switched on, by the test or by the program.
     std::atomic<bool> isEnabled = true;
-    /// Whether the launcher knows a bus for accessibility.
-    std::atomic<bool> hasAccessibilityBus = true;
 
     FakeApplication application;
-    void startApplication() { application.join(bus_.connect(), server_); }
-    void endApplication();
 
 private:
     QDBusMessage answer(const QDBusMessage& call);

@@ -1,4 +1,3 @@
-#include "platform/SlownessGuard.h"
 #include "platform/linux/atspi/AtSpiFixture.h"
 
 #include <QApplication>
@@ -18,11 +17,6 @@ protected:
     }
     void send(const QString& interface, const QString& name, const QVariant& value = 1) {
         application.sendEvent(u"/text"_s, interface, name, u"focused"_s, value);
-    }
-    void showTextThatDoesNotAnswer(const QString& question) {
-        auto object = focusedText(u"one"_s, {{0, 3}});
-        object.misbehaviours[question] = fakes::silence;
-        show(object);
     }
     QMessageBox* question() const {
         for (auto* widget : QApplication::topLevelWidgets()) {
@@ -85,7 +79,9 @@ TEST_F(PollingTest, AFocusedObjectThatVanishesIsLookedForAnew) {
 
 TEST_F(PollingTest, AnApplicationThatDoesNotAnswerIsLeftAlone) {
     limits.deadline = 60ms;
-    showTextThatDoesNotAnswer(u"GetText"_s);
+    auto object = focusedText(u"one"_s, {{0, 3}});
+    object.misbehaviours[u"GetText"_s] = fakes::silence;
+    show(object);
     start();
     QElapsedTimer timer;
     timer.start();
@@ -97,25 +93,6 @@ TEST_F(PollingTest, AnApplicationThatDoesNotAnswerIsLeftAlone) {
     const auto next = look();
     EXPECT_FALSE(next.focused);
     EXPECT_EQ(next.calls, 0);
-}
-
-TEST_F(PollingTest, AnApplicationThatTellsItsTextButNeverItsBoundsIsLeftAloneForLongerEachTime) {
-    limits.deadline = 400ms;   // Enough for the rest, also on a busy machine.
-    limits.longestTrust = 0ms; // Looks again each time it is allowed to.
-    showTextThatDoesNotAnswer(u"GetRangeExtents"_s);
-    start();
-    QElapsedTimer pause;
-    for (const int least : {0, 1000, 2000}) {
-        fakes::Look found;
-        EXPECT_TRUE(eventually([&] { return (found = look()).focused; }));
-        EXPECT_EQ(found.text, u"one"_s);
-        EXPECT_EQ(found.bounds, std::nullopt);
-        if (least > 0) {
-            EXPECT_GE(pause.elapsed(), least);
-        }
-        EXPECT_EQ(look().calls, 0);
-        pause.start();
-    }
 }
 
 TEST_F(PollingTest, ABusThatStandsStillHoldsNobodyUp) {
@@ -131,17 +108,6 @@ TEST_F(PollingTest, ABusThatStandsStillHoldsNobodyUp) {
     EXPECT_FALSE(look().focused);
     EXPECT_LT(timer.elapsed(), 5000);
     desktop.pauseBus(false);
-}
-
-TEST_F(PollingTest, AnApplicationThatQuitsAndItsSuccessor) {
-    showText(u"one"_s);
-    start();
-    ASSERT_TRUE(look().focused);
-    desktop.endApplication();
-    EXPECT_TRUE(eventually([this] { return !look().focused; }));
-    showText(u"next"_s);
-    desktop.startApplication();
-    EXPECT_TRUE(eventually([this] { return look().text == u"next"_s; }));
 }
 
 TEST_F(PollingTest, ThePermissionIsAskedForOnceAndWrittenOnlyAfterAYes) {
@@ -167,26 +133,6 @@ TEST_F(PollingTest, ThePermissionIsAskedForOnceAndWrittenOnlyAfterAYes) {
     EXPECT_TRUE(eventually([this] { return desktop.isEnabled.load(); }));
     EXPECT_TRUE(accessibility->isProcessTrusted(platform::TrustPrompt::Shown));
     EXPECT_EQ(question(), nullptr);
-}
-
-TEST_F(PollingTest, WithoutABusThereIsNoPermissionAndNothingToAsk) {
-    desktop.hasAccessibilityBus = false;
-    accessibility.emplace(windows, desktop.session(), limits);
-    EXPECT_FALSE(accessibility->isProcessTrusted(platform::TrustPrompt::Shown));
-    EXPECT_EQ(question(), nullptr);
-    EXPECT_FALSE(look().focused);
-}
-
-TEST(SlownessGuardTest, ThePauseGrowsToFiveSeconds) {
-    platform::SlownessGuard guard;
-    auto now = platform::SlownessGuard::Clock::time_point(100s);
-    EXPECT_FALSE(guard.isLeftAlone(now));
-    for (const auto pause : {1s, 2s, 4s, 5s, 5s}) {
-        guard.ranOut(now);
-        EXPECT_TRUE(guard.isLeftAlone(now + pause - 1ms));
-        now += pause;
-        EXPECT_FALSE(guard.isLeftAlone(now));
-    }
 }
 
 } // namespace

@@ -86,16 +86,6 @@ TEST_F(SelectionTest, ParagraphsAreJoinedAcrossEmptyOnes) {
     EXPECT_EQ(look().text, u"rst.\nThi"_s);
 }
 
-TEST_F(SelectionTest, OfAVeryLongTextTheEndsAreRead) {
-    auto book = QString(1'000'000, u'a');
-    book[0] = u'b';
-    book[999'999] = u'c';
-    const auto text = textOf(focusedText(book, {{0, 1'000'000}}));
-    ASSERT_TRUE(text);
-    EXPECT_TRUE(text->startsWith(u'b') && text->endsWith(u'c'));
-    EXPECT_LT(text->size(), 200'000);
-}
-
 TEST_F(SelectionTest, WrongAnswersYieldNothing) {
     auto object = focusedText(u"one two"_s, {{4, 7}});
     const std::vector<fakes::Misbehaviour> wrong{

@@ -34,14 +34,6 @@ protected:
 
 } // namespace
 
-TEST_F(DesktopApplicationBundlesTest, AnEntryIsKnownByItsFileNameAndItsNameInTheUsersLanguage) {
-    const auto bundle = bundles.bundle(entry(system, "Name[de]=Notizen\nName[fr]=Carnets\n"));
-    ASSERT_TRUE(bundle);
-    EXPECT_EQ(bundle->bundleIdentifier, u"org.example.Notes"_s);
-    EXPECT_EQ(bundle->name, u"Notizen"_s);
-    EXPECT_EQ(bundle->displayName, std::nullopt);
-}
-
 TEST_F(DesktopApplicationBundlesTest, ListsWhatTheDesktopLists) {
     for (const char* keys : {"", "OnlyShowIn=KDE;XFCE;\n", "NotShowIn=KDE;\nNoDisplay=false\n",
                              "TryExec=sh\n", "TryExec=/bin/sh\n"}) {
@@ -52,17 +44,6 @@ TEST_F(DesktopApplicationBundlesTest, ListsWhatTheDesktopLists) {
           "TryExec=no-such-program-anywhere\n", "TryExec=/etc/passwd\n"}) {
         EXPECT_FALSE(bundles.bundle(entry(system, keys))) << keys;
     }
-}
-
-TEST_F(DesktopApplicationBundlesTest, FoldersOfTheSystemComeFirstAndAreReadOneLevelDeep) {
-    EXPECT_EQ(bundles.folders(), (QStringList{local, system, user}));
-    entry(system, "");
-    entry(system + u"/vendor"_s, "");
-    auto entries = bundles.entries(system);
-    entries.sort();
-    EXPECT_EQ(entries, (QStringList{u"org.example.Notes.desktop"_s, u"vendor"_s}));
-    EXPECT_TRUE(bundles.entries(user).isEmpty());
-    EXPECT_EQ(bundles.suffix(), u".desktop"_s);
 }
 
 TEST_F(DesktopApplicationBundlesTest, AnEntryThatIsHiddenHidesThoseThatCountLess) {

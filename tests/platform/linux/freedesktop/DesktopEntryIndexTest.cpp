@@ -34,23 +34,6 @@ protected:
 
 } // namespace
 
-TEST_F(DesktopEntryIndexTest, ReadsInTheBackgroundAtFirstUse) {
-    install(u"notes.desktop"_s);
-    install(u"vendor/mail.desktop"_s);
-    install(u"text.txt"_s);
-    int changes = 0;
-    const auto registration = index_.addChangeHandler([&changes] { ++changes; });
-    EXPECT_EQ(index_.current(), nullptr);
-    EXPECT_EQ(index_.current(), nullptr);
-    runLoop_.finishBackgroundWork();
-    EXPECT_EQ(changes, 1); // asking twice did not read twice
-    EXPECT_TRUE(knows("notes"));
-    EXPECT_TRUE(knows("vendor-mail"));
-    EXPECT_EQ(index_.current()->entries().size(), 2U);
-    runLoop_.finishBackgroundWork();
-    EXPECT_EQ(changes, 1); // and nothing is read again while nothing changed
-}
-
 TEST_F(DesktopEntryIndexTest, ReadsAgainWhenAFolderChangedAndAnswersMeanwhile) {
     install(u"notes.desktop"_s);
     index_.current();

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <limits>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
@@ -69,6 +70,19 @@ TEST_F(JsonUserDefaultsTest, TellsTypesApartAndYieldsNothingForOthers) {
     }
 }
 
+TEST_F(JsonUserDefaultsTest, ValuesComeBackWithTheTypeInWhichTheyWereStored) {
+    for (const DefaultsValue& value : std::initializer_list<DefaultsValue>{
+             true, false, std::int64_t{1}, std::numeric_limits<std::int64_t>::min(),
+             std::numeric_limits<std::uint64_t>::max(), 2.0, 0.1, -1e-300, QString(), u"true"_s,
+             u"\"\\\n\u00e4\U0001F600"_s, QStringList(), QStringList{u"b"_s, QString(), u"a"_s}}) {
+        for (const QString& name : {key, u"Key"_s, QString()}) {
+            EXPECT_EQ(JsonUserDefaults(folder.path(u"new.json"_s)).object(name), std::nullopt);
+            JsonUserDefaults(path).set(name, value);
+            EXPECT_EQ(JsonUserDefaults(path).object(name), value) << "value " << value.index();
+        }
+    }
+}
+
 TEST_F(JsonUserDefaultsTest, MakesItsFolderAndKeepsWhatItDoesNotKnow) {
     const QString deep = folder.path(u"a/b/settings.json"_s);
     JsonUserDefaults(deep).set(key, true);
@@ -101,13 +115,6 @@ TEST_F(JsonUserDefaultsTest, ADamagedFileIsSetAsideAndNeverOverwritesAnEarlierOn
     for (std::size_t i = 1; i < damaged.size(); ++i) {
         EXPECT_EQ(folder.read(u"settings.json.damaged-%1"_s.arg(i + 1)), damaged[i]);
     }
-}
-
-TEST_F(JsonUserDefaultsTest, WhatIsNoFileIsSetAsideWithoutBeingOpened) {
-    ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
-    EXPECT_THAT(logged([&] { JsonUserDefaults(path).set(key, true); }), HasSubstr("set aside"));
-    EXPECT_EQ(JsonUserDefaults(path).object(key), DefaultsValue(true));
-    EXPECT_EQ(folder.names(), u"settings.json settings.json.damaged"_s);
 }
 
 TEST_F(JsonUserDefaultsTest, AFullDiskLeavesTheOldFileWhole) {

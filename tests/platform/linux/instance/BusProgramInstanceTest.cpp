@@ -4,7 +4,6 @@
 #include "Responder.h"
 #include "fakes/Eventually.h"
 
-#include <QDBusPendingReply>
 #include <QTimer>
 #include <gtest/gtest.h>
 
@@ -38,16 +37,6 @@ protected:
         return start.get();
     }
 
-    /// Calls the running program like the desktop; the name of the error, empty for none.
-    QString call(const QString& method, const QVariantList& arguments) {
-        auto message = QDBusMessage::createMethodCall(programName, u"/com/corvane/Quillet"_s,
-                                                      u"org.freedesktop.Application"_s, method);
-        message.setArguments(arguments);
-        QDBusPendingReply<> reply = caller.asyncCall(message, 5000);
-        EXPECT_TRUE(eventually([&] { return reply.isFinished(); }));
-        return reply.error().name();
-    }
-
     core::Registration record(BusProgramInstance& instance) {
         return instance.setRequestHandler(
             [this](const InstanceRequest& request) { requests.push_back(request); });
@@ -56,7 +45,6 @@ protected:
     static constexpr std::chrono::milliseconds longEnough{4000};
     const ActivationToken token{u"launcher-1_TIME77"_s, u"wayland-1"_s};
     fakes::PrivateBus bus;
-    QDBusConnection caller = bus.connect();
     std::vector<InstanceRequest> requests;
 };
 
@@ -105,28 +93,3 @@ TEST_F(BusProgramInstanceTest, TakesOverFromAProgramThatEndsWithoutAnAnswer) {
     EXPECT_EQ(outcome(start(Kind::Activate)), Claim::First);
 }
 
-TEST_F(BusProgramInstanceTest, ActionsArriveInTheirOrderAndWaitWhileNobodyHandlesThem) {
-    BusProgramInstance first(bus.connect(), {});
-    ASSERT_EQ(first.claim(Kind::Activate), Claim::First);
-    const QVariantMap data{{u"desktop-startup-id"_s, u"id"_s}, {u"something else"_s, 7}};
-    const auto action = [&](const QString& name) {
-        return call(u"ActivateAction"_s, {name, QVariantList{}, data});
-    };
-    auto handler = record(first);
-    EXPECT_EQ(action(u"settings"_s), QString());
-    EXPECT_EQ(action(u"feedback"_s), QString());
-    EXPECT_EQ(action(u"delete everything"_s), u"org.freedesktop.DBus.Error.InvalidArgs"_s);
-    ASSERT_TRUE(eventually([&] { return requests.size() == 2; }));
-
-    handler.reset();
-    EXPECT_EQ(call(u"Open"_s, {QStringList{u"file:///a"_s}, data}), QString());
-    EXPECT_EQ(action(u"quit"_s), QString());
-    EXPECT_EQ(requests.size(), 2U);
-    handler = record(first);
-    ASSERT_TRUE(eventually([&] { return requests.size() == 4; }));
-    const ActivationToken id{u"id"_s, {}};
-    EXPECT_EQ(
-        requests,
-        (std::vector<InstanceRequest>{
-            {Kind::Settings, id}, {Kind::Feedback, id}, {Kind::Activate, id}, {Kind::Quit, id}}));
-}

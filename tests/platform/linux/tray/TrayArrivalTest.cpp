@@ -81,13 +81,3 @@ TEST(TrayArrival, TheOlderTrayGetsTheIconAfterAWhileUnlessAHostComesOrItGoesMean
               0);
 }
 
-TEST(TrayArrival, WhateverComesLaterThereAreNeverTwoIcons) {
-    Desktop desktop(false, true);
-    desktop.runLoop.advance(2);
-    desktop.statusNotifier.set(true);
-    desktop.xembed.set(false);
-    desktop.statusNotifier.set(false);
-    desktop.statusNotifier.set(true);
-    desktop.runLoop.advance(10);
-    EXPECT_EQ(desktop.icons, 1);
-}

@@ -1,9 +1,6 @@
 #include "XWindowsFixture.h"
 
 #include <QUrl>
-#include <QWidget>
-
-#include <algorithm>
 
 namespace desktop {
 
@@ -34,16 +31,6 @@ TEST_F(XWindowsTest, TheActiveWindowsApplicationIsFrontmost) {
         EXPECT_TRUE(eventually([&] { return frontmostIdentifier() == "org.example.Notes"; }));
     }
     EXPECT_TRUE(waitForFrontmost(installedProcess));
-}
-
-TEST_F(XWindowsTest, AWindowThatInheritsTheNumberOfOneThatIsGoneIsAnother) {
-    auto notes = installed();
-    ASSERT_TRUE(waitForFrontmost(installedProcess));
-    const auto number = notes->id();
-    notes.reset();
-    const XWindow terminal(*applications,
-                           {.process = unknownProcess, .className = "Terminal", .number = number});
-    EXPECT_TRUE(waitForFrontmost(unknownProcess));
 }
 
 TEST_F(XWindowsTest, AskingWhileNothingChangedAsksTheServerNothing) {
@@ -111,24 +98,6 @@ TEST_F(XWindowsTest, ADialogIsWhatItsParentIs) {
     EXPECT_EQ(frontmostIdentifier(), "Dialog");
 }
 
-TEST_F(XWindowsTest, RunningApplicationsAreThoseWithOrdinaryWindows) {
-    const auto notes = installed();
-    const auto moreNotes = installed();
-    const XWindow panel(
-        *applications,
-        {.process = 4000003, .className = "Panel", .type = "_NET_WM_WINDOW_TYPE_DOCK"});
-    const XWindow pager(*applications,
-                        {.process = 4000004, .className = "Pager", .onTaskbar = false});
-    const auto terminal = unknown();
-    ASSERT_TRUE(waitForFrontmost(unknownProcess));
-    std::string found;
-    for (const auto& application : workspace.runningApplications()) {
-        found += application.bundleIdentifier->toStdString() +
-                 (application.activationPolicy == platform::ActivationPolicy::Regular ? " " : "- ");
-    }
-    EXPECT_EQ(found, "org.example.Notes Panel- Pager- Terminal ");
-}
-
 TEST_F(XWindowsTest, AServerThatAnotherClientHoldsDelaysNobody) {
     const auto notes = installed();
     ASSERT_TRUE(waitForFrontmost(installedProcess));
@@ -144,7 +113,5 @@ TEST_F(XWindowsTest, AServerThatAnotherClientHoldsDelaysNobody) {
     ASSERT_TRUE(eventually([&] { return connection->isAnswering(); }));
     EXPECT_TRUE(waitForFrontmost(installedProcess));
 }
-
-class XWithoutManagerTest : public XWindowsTest {};
 
 } // namespace desktop

@@ -1,55 +1,12 @@
 #include "XKeyboardFixture.h"
 
-#include <QDeadlineTimer>
-
-#include <csignal>
 #include <numeric>
-#include <sys/prctl.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace desktop {
 
 namespace flags = platform::modifierFlags;
 
-namespace {
-
-/// Another run of the program, which posts shortcuts until it is killed. It tells the number of a
-/// window first: once that is gone, the server has handled all that the run has sent.
-[[noreturn]] void postForever(int started) {
-    prctl(PR_SET_PDEATHSIG, SIGKILL);
-    const auto connection = platform::XcbConnection::open();
-    fakes::VirtualRunLoop runLoop;
-    platform::OwnKeyStrokes strokes;
-    platform::XTestKeyboardEvents keyboard(*connection, runLoop, strokes, [] { return true; });
-    const xcb_window_t window = xcb_generate_id(connection->get());
-    xcb_create_window(connection->get(), XCB_COPY_FROM_PARENT, window, connection->root(), 0, 0, 1,
-                      1, 0, XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
-    settle(*connection);
-    if (write(started, &window, sizeof window) != sizeof window) {
-        _exit(1);
-    }
-    for (;;) {
-        postShortcut(keyboard, 11, flags::mask);
-    }
-}
-
-} // namespace
-
-class XTestKeyboardEventsTest : public XKeyboardTest {
-protected:
-    /// Waits until the server has let go of the client that made that window, 10 s at most.
-    bool waitUntilGone(xcb_window_t window) {
-        const QDeadlineTimer limit(10'000);
-        auto& display = user.display();
-        while (display.reply<xcb_get_geometry_reply_t>(xcb_get_geometry(display.get(), window))) {
-            if (limit.hasExpired()) {
-                return false;
-            }
-        }
-        return true;
-    }
-};
+class XTestKeyboardEventsTest : public XKeyboardTest {};
 
 TEST_F(XTestKeyboardEventsTest, PostsTheModifiersOwnKeysAroundTheKeyAndNothingElse) {
     post(11, flags::command);
@@ -139,28 +96,6 @@ TEST_F(XTestKeyboardEventsTest, ReleasesAtTheStartWhatAnEarlierProgramLeftDown) 
     const platform::XTestKeyboardEvents next(*connection, runLoop, ownStrokes, [] { return true; });
     settle(*connection);
     EXPECT_TRUE(user.keysDown().none());
-}
-
-TEST_F(XTestKeyboardEventsTest, AProgramKilledInMidChordLeavesNoKeyDown) {
-    for (std::size_t round = 0; round < 15; ++round) {
-        int ends[2];
-        ASSERT_EQ(pipe(ends), 0);
-        const pid_t program = fork();
-        if (program == 0) {
-            postForever(ends[1]);
-        }
-        close(ends[1]);
-        xcb_window_t window = XCB_WINDOW_NONE;
-        ASSERT_EQ(read(ends[0], &window, sizeof window), ssize_t{sizeof window});
-        close(ends[0]);
-        // Some moment of some chord: another one in every round.
-        ASSERT_TRUE(application.waitForKeys(1 + round * 3));
-        kill(program, SIGKILL);
-        ASSERT_EQ(waitpid(program, nullptr, 0), program);
-        ASSERT_TRUE(waitUntilGone(window));
-        ASSERT_TRUE(user.keysDown().none()) << "round " << round;
-        application.takeKeys();
-    }
 }
 
 } // namespace desktop

@@ -32,10 +32,6 @@ TEST(ReservedEdges, APanelOnAnInnerEdgeDoesNotTakeTheOuterScreen) {
     expectFrames({0, 1024, 0, 0, 0, 0, 0, 799, 0, 0, 0, 0}, {0, 0, 976, 800}, right);
 }
 
-TEST(ReservedEdges, TheOldFormAppliesAlongTheWholeEdge) {
-    expectFrames({0, 0, 30, 0}, {0, 30, 1000, 770}, {1000, 30, 1000, 970});
-}
-
 TEST(ReservedEdges, NonsenseTakesNothing) {
     expectFrames({1, 2, 3}, left, right);
     expectFrames({}, left, right);

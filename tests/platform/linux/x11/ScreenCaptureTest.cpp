@@ -2,8 +2,6 @@
 
 #include "platform/linux/x11/XCompositeScreenCapture.h"
 
-#include <xcb/shape.h>
-
 namespace desktop {
 
 namespace {
@@ -13,30 +11,16 @@ using platform::PixelRect;
 /// A plain rectangle above all windows that are there already; nobody puts a frame around it.
 class Plain {
 public:
-    /// `pixel` with an opacity makes it translucent.
     Plain(platform::XcbDisplay& display, PixelRect frame, std::uint32_t pixel, bool visible = true)
         : display_(display)
         , window_(xcb_generate_id(display.get())) {
         auto* connection = display.get();
-        const bool translucent = pixel > 0xffffff;
-        xcb_visualid_t visual = display.screen().root_visual;
-        std::uint8_t depth = display.screen().root_depth;
-        for (auto depths = xcb_screen_allowed_depths_iterator(&display.screen());
-             translucent && depths.rem > 0; xcb_depth_next(&depths)) {
-            if (depths.data->depth == 32) {
-                depth = 32;
-                visual = xcb_depth_visuals(depths.data)->visual_id;
-            }
-        }
-        const xcb_colormap_t colors = xcb_generate_id(connection);
-        xcb_create_colormap(connection, XCB_COLORMAP_ALLOC_NONE, colors, display.root(), visual);
-        const std::uint32_t values[] = {pixel, 0, 1, colors};
+        const std::uint32_t values[] = {pixel, 1};
         xcb_create_window(
-            connection, depth, window_, display.root(), static_cast<std::int16_t>(frame.x),
+            connection, XCB_COPY_FROM_PARENT, window_, display.root(), static_cast<std::int16_t>(frame.x),
             static_cast<std::int16_t>(frame.y), static_cast<std::uint16_t>(frame.width),
-            static_cast<std::uint16_t>(frame.height), 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, visual,
-            XCB_CW_BACK_PIXEL | XCB_CW_BORDER_PIXEL | XCB_CW_OVERRIDE_REDIRECT | XCB_CW_COLORMAP,
-            values);
+            static_cast<std::uint16_t>(frame.height), 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
+            XCB_COPY_FROM_PARENT, XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT, values);
         if (visible) {
             xcb_map_window(connection, window_);
         }
@@ -47,11 +31,6 @@ public:
         settle(display_);
     }
 
-    void cutTo(xcb_rectangle_t part) {
-        xcb_shape_rectangles(display_.get(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, 0, window_, 0,
-                             0, 1, &part);
-        settle(display_);
-    }
     xcb_window_t id() const { return window_; }
 
 private:
@@ -105,22 +84,6 @@ TEST_F(ScreenCaptureTest, ShowsWhatIsBelowAWindowWholeAndNothingElse) {
     EXPECT_TRUE(hasColor(everything, 0xffffffff) && hasColor(everything, 0xff0000ff));
     EXPECT_TRUE(capture.pictureBelow(back.id()).isNull()) << "nothing is below the lowest";
     EXPECT_TRUE(capture.pictureBelow(0x7fffff).isNull()) << "there is no such window";
-}
-
-TEST_F(ScreenCaptureTest, KeepsToTheScreenToShapesAndToOpacities) {
-    const Plain outside(*applications, {-50, -20, 200, 120}, red);
-    Plain shaped(*applications, {200, 0, 100, 100}, green);
-    shaped.cutTo({0, 0, 50, 50});
-    const Plain translucent(*applications, {100, 50, 50, 50}, 0x80000080);
-    const QImage picture = capture.pictureBelow(0);
-    ASSERT_EQ(picture.size(), QSize(250, 100));
-    EXPECT_EQ(picture.pixel(0, 0), 0xffff0000U);
-    EXPECT_EQ(picture.pixel(249, 49), 0xff00ff00U);
-    EXPECT_EQ(qAlpha(picture.pixel(210, 60)), 0) << "cut away";
-    const QRgb mixed = picture.pixel(120, 70);
-    EXPECT_NEAR(qRed(mixed), 127, 2);
-    EXPECT_NEAR(qBlue(mixed), 128, 2);
-    EXPECT_EQ(qAlpha(mixed), 255);
 }
 
 // The test is the manager, one of those that keep everything mapped.

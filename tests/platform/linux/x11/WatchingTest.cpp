@@ -3,8 +3,6 @@
 #include "platform/linux/x11/XInputKeyMonitor.h"
 #include "platform/linux/x11/XInputPointerMonitor.h"
 
-#include <xcb/xinput.h>
-
 #include <optional>
 #include <utility>
 
@@ -32,14 +30,6 @@ protected:
                                    .arg(event.modifierFlags, 0, 16)
                                    .toStdString());
         });
-    }
-
-    /// The events that the server sends us for all masters, as a mask.
-    std::uint32_t selectedEvents() {
-        const auto reply = connection->reply<xcb_input_xi_get_selected_events_reply_t>(
-            xcb_input_xi_get_selected_events(connection->get(), connection->root()));
-        auto masks = xcb_input_xi_get_selected_events_masks_iterator(reply.get());
-        return masks.rem > 0 ? *xcb_input_event_mask_mask(masks.data) : 0;
     }
 
     bool ownApplicationIsActive = false;
@@ -98,22 +88,6 @@ TEST_F(WatchingTest, KeysForThisProgramAreNotReportedButTheirModifiersCount) {
     ownApplicationIsActive = false;
     user.tap(keyB);
     EXPECT_EQ(takeKeyDowns(), Keys{"11:20000"});
-}
-
-TEST_F(WatchingTest, TheServerIsAskedOnlyWhileSomebodyListens) {
-    EXPECT_EQ(selectedEvents(), 0U);
-    auto keys = watchKeys();
-    constexpr std::uint32_t keyEvents =
-        XCB_INPUT_XI_EVENT_MASK_RAW_KEY_PRESS | XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE;
-    EXPECT_EQ(selectedEvents(), keyEvents);
-    auto picker = pointerMonitor.addDismissMonitor([](const platform::DismissEvent&) {});
-    EXPECT_EQ(selectedEvents(), keyEvents | XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS);
-    picker.reset();
-    EXPECT_EQ(selectedEvents(), keyEvents);
-    keys.reset();
-    EXPECT_EQ(selectedEvents(), 0U);
-    user.tap(keyB);
-    EXPECT_EQ(takeKeyDowns(), Keys{});
 }
 
 TEST_F(WatchingTest, DismissesByAPressByEscapeAndByAnotherActiveWindow) {

@@ -2,10 +2,8 @@
 
 #include "platform/linux/x11/XcbXkb.h"
 
-#include <poll.h>
 #include <xcb/xtest.h>
 
-#include <chrono>
 #include <stdexcept>
 #include <utility>
 
@@ -84,12 +82,6 @@ platform::KeySet XUser::keysDown() {
     return down;
 }
 
-std::uint8_t XUser::lockedModifiers() {
-    const platform::XcbPointer<xcb_xkb_get_state_reply_t> state(xcb_xkb_get_state_reply(
-        display_->get(), xcb_xkb_get_state(display_->get(), XCB_XKB_ID_USE_CORE_KBD), nullptr));
-    return state ? state->lockedMods : 0;
-}
-
 void XUser::lockGroup(std::uint8_t group) {
     xcb_xkb_latch_lock_state(display_->get(), XCB_XKB_ID_USE_CORE_KBD, 0, 0, 1, group, 0, 0, 0);
     settle(*display_);
@@ -122,22 +114,6 @@ std::vector<std::string> XApplication::takeKeys() {
     settle(*display_);
     collect();
     return std::exchange(keys_, {});
-}
-
-bool XApplication::waitForKeys(std::size_t count) {
-    const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-    for (;;) {
-        collect();
-        if (keys_.size() >= count) {
-            return true;
-        }
-        pollfd readable{xcb_get_file_descriptor(display_->get()), POLLIN, 0};
-        const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(
-            limit - std::chrono::steady_clock::now());
-        if (left.count() <= 0 || poll(&readable, 1, static_cast<int>(left.count())) <= 0) {
-            return false;
-        }
-    }
 }
 
 } // namespace desktop

@@ -30,8 +30,6 @@ public:
     /// Which keys the server has down, on whatever device.
     platform::KeySet keysDown();
 
-    /// Whether the locks (modifier bits) are on.
-    std::uint8_t lockedModifiers();
     void lockGroup(std::uint8_t group);
 
     platform::XcbDisplay& display() { return *display_; }
@@ -50,9 +48,6 @@ public:
     /// The key events so far and none of the next call: "+56/4" is key 56 going down with Control,
     /// "-56/4" coming up.
     std::vector<std::string> takeKeys();
-
-    /// Waits until that many key events have come, 10 s at most.
-    bool waitForKeys(std::size_t count);
 
     platform::XcbDisplay& display() { return *display_; }
     xcb_window_t window() const { return window_; }

@@ -6,7 +6,7 @@ namespace desktop {
 
 XWindow::XWindow(platform::XcbDisplay& display, const Looks& looks)
     : display_(display)
-    , window_(looks.number ? *looks.number : xcb_generate_id(display.get())) {
+    , window_(xcb_generate_id(display.get())) {
     const auto& frame = looks.frame;
     xcb_create_window(display.get(), XCB_COPY_FROM_PARENT, window_, display.root(),
                       static_cast<std::int16_t>(frame.x), static_cast<std::int16_t>(frame.y),
@@ -24,12 +24,6 @@ XWindow::XWindow(platform::XcbDisplay& display, const Looks& looks)
         setClass(looks.className);
     }
     say("_NET_WM_WINDOW_TYPE", XCB_ATOM_ATOM, {display.atom(looks.type.c_str())});
-    if (!looks.strut.empty()) {
-        say("_NET_WM_STRUT_PARTIAL", XCB_ATOM_CARDINAL, looks.strut);
-    }
-    if (!looks.onTaskbar) {
-        say("_NET_WM_STATE", XCB_ATOM_ATOM, {display.atom("_NET_WM_STATE_SKIP_TASKBAR")});
-    }
     if (looks.parent != XCB_WINDOW_NONE) {
         say("WM_TRANSIENT_FOR", XCB_ATOM_WINDOW, {looks.parent});
     }

@@ -5,7 +5,6 @@
 #include "fakes/VirtualRunLoop.h"
 #include "platform/linux/x11/EwmhWorkspace.h"
 #include "platform/linux/x11/X11Screens.h"
-#include "platform/linux/x11/X11WindowServer.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -22,11 +21,7 @@ public:
         platform::ProcessIdentifier process = 0;
         std::string className = {};
         std::string type = "_NET_WM_WINDOW_TYPE_NORMAL";
-        std::vector<std::uint32_t> strut = {};
-        bool onTaskbar = true;
         xcb_window_t parent = XCB_WINDOW_NONE;
-        /// The number of a window that is gone, to be used again.
-        std::optional<xcb_window_t> number = {};
     };
 
     XWindow(platform::XcbDisplay& display, const Looks& looks);
@@ -81,7 +76,6 @@ protected:
     platform::DesktopEntryIndex index{runLoop, {folder.path()}, {}};
     platform::EwmhWorkspace workspace{windows, index, QStringLiteral("com.corvane.Quillet")};
     platform::X11Screens screens{windows};
-    platform::X11WindowServer windowServer{connection};
 };
 
 } // namespace desktop
