@@ -11,10 +11,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QMenu>
-#include <QPlainTextEdit>
-#include <QPushButton>
 #include <QTest>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -122,18 +119,6 @@ TEST_F(AppDelegateTest, ASelectionBringsTheBarAndAClickPostsToWhereItWasMade) {
     EXPECT_NEAR(fakes.keyboardEvents.posted[0].time, clicked + 0.1, 1e-9);
     fakes.runLoop.advance(1);
     EXPECT_EQ(count("order out"), 0);
-}
-
-TEST_F(AppDelegateTest, TheColourChoiceOpensTheTargetsColoursAndPlacesThePanel) {
-    launch();
-    select(QStringLiteral("word"));
-    click(QStringLiteral("paintpalette.fill"));
-    ASSERT_EQ(fakes.keyboardEvents.posted.size(), 2U);
-    EXPECT_EQ(fakes.keyboardEvents.posted[0].keyCode, 8);
-    EXPECT_EQ(fakes.keyboardEvents.posted[0].flags, commandShift);
-    EXPECT_TRUE(fakes.colorPanel.modes.empty());
-    fakes.runLoop.advance(0.3);
-    EXPECT_EQ(fakes.colorPanel.modes.size(), 1U);
 }
 
 TEST_F(AppDelegateTest, TerminationStopsThePollAndHidesTheBar) {

@@ -75,12 +75,3 @@ TEST_F(MenuTrackingTest, APanelThatNeverSaysClosedHoldsThePollForThreeSeconds) {
     EXPECT_FALSE(pollRests());
 }
 
-TEST_F(MenuTrackingTest, AMenuOfOurOwnHoldsThePollAsLongAsItIsSeen) {
-    menu.popup(QPoint(0, 0));
-    fakes.runLoop.advance(60);
-    fakes.pointerMonitor.events.notify({platform::DismissReason::PointerPressed, {}});
-    EXPECT_TRUE(pollRests());
-    menu.hide();
-    EXPECT_FALSE(pollRests());
-}
-

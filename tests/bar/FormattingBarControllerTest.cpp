@@ -40,16 +40,6 @@ TEST_F(FormattingBarController, HidesAfterItsGraceAndKeepsTheWindow) {
     EXPECT_EQ(frame().width, 660);
 }
 
-TEST_F(FormattingBarController, StaysWhenItIsShownAgainWithinTheGrace) {
-    show();
-    controller_->hide();
-    fake_.runLoop.advance(0.29);
-    controller_->show({100, 300, 10, 10});
-    fake_.runLoop.advance(5);
-    EXPECT_TRUE(window().isVisible());
-    EXPECT_EQ(frame(), (Rect{100, 318, 660, 44}));
-}
-
 TEST_F(FormattingBarController, SaysWhereTheColourPanelGoesBeforeItReportsTheChoice) {
     show(2);
     monitor::NotesAutomation::colorPanelPosition = {};

@@ -35,28 +35,7 @@ constexpr Control controls[] = {
     {"textformat", "Remove Formatting", 30},
 };
 
-class FormattingBarView : public BarFixture {
-protected:
-    /// A colour laid over another, as the bar's material is below everything on it.
-    static QColor over(QColor top, QColor below) {
-        const double share = top.alphaF();
-        const auto mixed = [share](int a, int b) { return qRound(b + (a - b) * share); };
-        return {mixed(top.red(), below.red()), mixed(top.green(), below.green()),
-                mixed(top.blue(), below.blue())};
-    }
-
-    void expectNear(QColor actual, QColor expected) {
-        EXPECT_NEAR(actual.red(), expected.red(), 4);
-        EXPECT_NEAR(actual.green(), expected.green(), 4);
-        EXPECT_NEAR(actual.blue(), expected.blue(), 4);
-    }
-
-    QColor highlight(double opacity, ui::Color material) {
-        const QPalette palette = QApplication::palette();
-        return over(ui::color({ui::Color::Accent, opacity}, palette),
-                    ui::color({material}, palette));
-    }
-};
+using FormattingBarView = BarFixture;
 
 TEST_F(FormattingBarView, LaysOutEveryControlAndDividerToThePointAndNamesThem) {
     show(2);
@@ -83,21 +62,6 @@ TEST_F(FormattingBarView, LaysOutEveryControlAndDividerToThePointAndNamesThem) {
     EXPECT_EQ(x - 2, 10 + 640 - 10);
     EXPECT_EQ(bar.findChildren<QAbstractButton*>().size(), 17);
     EXPECT_TRUE(bar.testAttribute(Qt::WA_AlwaysShowToolTips));
-}
-
-TEST_F(FormattingBarView, HighlightsTheButtonUnderThePointerAtAFifthOfTheAccent) {
-    show(2);
-    for (const char* name : {"bold", "textformat.size", "paintpalette.fill"}) {
-        const QRect button = place(window(), name);
-        const QPoint beside = button.topLeft() + QPoint(3, 3);
-        const QColor before = pixel(window(), beside);
-        pointAt(window(), button.center());
-        expectNear(pixel(window(), beside), highlight(0.2, ui::Color::HudMaterial));
-        // Rounded: the corner keeps the material.
-        EXPECT_EQ(pixel(window(), button.topLeft()), before) << name;
-        pointAt(window(), {325, 2});
-        EXPECT_EQ(pixel(window(), beside), before) << name;
-    }
 }
 
 TEST_F(FormattingBarView, TheColourButtonRunsThroughTheRainbow) {

@@ -4,8 +4,6 @@
 #include "ui/Theme.h"
 
 #include <QApplication>
-#include <QFontInfo>
-#include <QPainter>
 
 namespace {
 
@@ -43,38 +41,6 @@ TEST_F(HeadingPicker, HangsWithItsArrowOnTheButtonsBottomEdgeAndFollowsTheBar) {
     fake_.record.clear();
     QApplication::processEvents();
     EXPECT_EQ(fake_.record, fakes::Record{"order front"});
-}
-
-TEST_F(HeadingPicker, LaysOutItsRowsInTheFontsOfTheirLevels) {
-    show(2);
-    open();
-    struct Row {
-        const char* label;
-        int size;
-        QFont::Weight weight;
-    };
-    int y = static_cast<int>(ui::PopoverMetrics::arrowHeight) + 8;
-    for (const Row& row :
-         {Row{"Title", 18, QFont::Bold}, Row{"Heading", 15, QFont::Bold},
-          Row{"Subheading", 13, QFont::DemiBold}, Row{"Body", 13, QFont::Normal}}) {
-        if (QLatin1String(row.label) == QLatin1String("Body")) {
-            y += 1 + 4; // the divider
-        }
-        const QRect place = BarFixture::place(picker(), row.label);
-        const auto* button = picker().findChild<QWidget*>(QString::fromLatin1(row.label));
-        EXPECT_EQ(button->accessibleName(), QString::fromLatin1(row.label));
-        EXPECT_TRUE(button->toolTip().isEmpty());
-        const auto labels = button->findChildren<QWidget*>();
-        const auto text = std::ranges::find(labels, button->accessibleName(),
-                                            [](auto* label) { return label->accessibleName(); });
-        ASSERT_NE(text, labels.end());
-        EXPECT_EQ((*text)->font().pixelSize(), row.size);
-        EXPECT_EQ((*text)->font().weight(), row.weight);
-        EXPECT_EQ((*text)->mapTo(button, QPoint()), QPoint(8, 4));
-        EXPECT_EQ(place, QRect(8, y, 124, (*text)->height() + 8)) << row.label;
-        y += place.height() + 4;
-    }
-    EXPECT_EQ(picker().height(), y - 4 + 8);
 }
 
 TEST_F(HeadingPicker, IsDismissedByAPressElsewhereEscapeOrAnotherActiveWindow) {

@@ -29,19 +29,6 @@ TEST(Published, ItsOwnerActsAfterEachAssignmentWithTheNewValue) {
     EXPECT_EQ(events, (std::vector<std::string>{"told at 1", "stored 2"}));
 }
 
-TEST(Published, StopsTellingWhenTheRegistrationEnds) {
-    Published<int> value(0);
-    int calls = 0;
-    {
-        Registration first = value.observe([&](int) { ++calls; });
-        const Registration second = std::move(first);
-        value = 1;
-        EXPECT_EQ(calls, 1);
-    }
-    value = 2;
-    EXPECT_EQ(calls, 1);
-}
-
 TEST(Published, ObserversMayComeAndGoWhileTheyAreTold) {
     Published<int> value(0);
     std::vector<char> calls;

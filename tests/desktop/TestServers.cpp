@@ -1,10 +1,12 @@
 // The servers of the program under test: what the shipped executable has compiled in comes from the
 // environment here, together with the authority that signed the servers' certificates.
 #include "feedback/FeedbackDefaults.h"
-#include "platform/appcast/AppcastDefaults.h"
 
 #include <QCoreApplication>
+#include <QNetworkAccessManager>
 #include <QSslConfiguration>
+
+#include <memory>
 
 namespace {
 
@@ -31,15 +33,3 @@ QNetworkAccessManager& sharedSession() {
 }
 
 } // namespace feedback
-
-namespace platform {
-
-QString appcastAddress() {
-    return qEnvironmentVariable("QUILLET_TEST_FEED");
-}
-
-std::unique_ptr<QNetworkAccessManager> makeAppcastSession() {
-    return trustingSession();
-}
-
-} // namespace platform

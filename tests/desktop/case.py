@@ -60,9 +60,9 @@ class DesktopCase(unittest.TestCase):
             program.wait_for_icon(self.tray)
         return program
 
-    def start_elsewhere(self, feed=""):
-        """The same program with a server of ours, from which it reads this feed; and the server."""
-        server = Server(self.desktop.session.folder, feed)
+    def start_elsewhere(self):
+        """The same program with a server of ours; and the server."""
+        server = Server(self.desktop.session.folder)
         self.addCleanup(server.close)
         return self.start_program(ELSEWHERE, environment=server.environment), server
 

@@ -17,8 +17,7 @@ class Desktop:
             self.hands = Hands(self.session.display)
             self.windows = Windows(self.session.display)
             self.camera = Camera(self.session.display)
-            self.accessibility = (AccessibilityBus(self.session, self.windows)
-                                  if options.get("accessibility", True) else None)
+            self.accessibility = AccessibilityBus(self.session, self.windows)
         except BaseException:
             self.close()
             raise
@@ -34,10 +33,7 @@ class Desktop:
 
     def focus(self, application):
         """Brings an application's window forward; its text widget that then has the focus."""
-        if self.session.has_window_manager:
-            self.windows.activate(application.window)
-        else:
-            self.windows.focus(application.window)
+        self.windows.activate(application.window)
         wait.until(lambda: self.windows.focused_pid() == application.pid, 5.0,
                    f"process {application.pid} has the keyboard")
         return self.accessibility.focused_text(application.pid)

@@ -7,32 +7,21 @@ import pathlib
 import subprocess
 
 _SCRIPT = pathlib.Path(__file__).parent.parent / "fakes/https_server.py"
-_SPARKLE = "http://www.andymatuschak.org/xml-namespaces/sparkle"
-
-
-def feed_of(version):
-    return (f'<rss version="2.0" xmlns:s="{_SPARKLE}"><channel><item>'
-            "<link>https://quillet.invalid/download</link>"
-            f"<s:version>{version}</s:version></item></channel></rss>")
 
 
 class Server:
     """Runs from its construction until `close`, with its certificates in a folder. Answers each
-    record with the identifier r1, and whoever looks for updates with a feed."""
+    record with the identifier r1."""
 
-    def __init__(self, folder, feed):
+    def __init__(self, folder):
         # It ends with its input, however this process ends.
         self._process = subprocess.Popen(["/usr/bin/python3", str(_SCRIPT), folder],
                                          stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
         port = json.loads(self._process.stdout.readline())["https"]
-
-        def answering(text):
-            body = base64.urlsafe_b64encode(text.encode()).decode().replace("=", "%3D")
-            return f"https://127.0.0.1:{port}/?status=200&body={body}"
-
-        self.environment = {"QUILLET_TEST_FEEDBACK_ENDPOINT": answering('{"id":"r1"}'),
-                            "QUILLET_TEST_FEED": answering(feed),
-                            "QUILLET_TEST_AUTHORITY": os.path.join(folder, "authority.pem")}
+        body = base64.urlsafe_b64encode(b'{"id":"r1"}').decode()
+        self.environment = {
+            "QUILLET_TEST_FEEDBACK_ENDPOINT": f"https://127.0.0.1:{port}/?status=200&body={body}",
+            "QUILLET_TEST_AUTHORITY": os.path.join(folder, "authority.pem")}
 
     def close(self):
         self._process.communicate(timeout=10)

@@ -22,21 +22,17 @@ class Session:
     whole screen is one monitor.
     """
 
-    def __init__(self, width=1280, height=800, monitors=(), window_manager=True,
-                 accessibility=True):
+    def __init__(self, width=1280, height=800, monitors=()):
         self._children = []
         self._logs = []
         self.folder = tempfile.mkdtemp(prefix="quillet-")
-        self.has_window_manager = window_manager
         signal.signal(signal.SIGTERM, lambda *_: sys.exit("ended by SIGTERM"))
         try:
             self._make_environment()
             self._start_x_server(width, height, monitors)
             self._start_bus()
-            if window_manager:
-                self.start_window_manager()
-            if accessibility:
-                self._switch_accessibility_on()
+            self.start_window_manager()
+            self._switch_accessibility_on()
         except BaseException:
             self.close()
             raise
@@ -113,12 +109,17 @@ class Session:
                                   GLib.VariantType(answer) if answer else None,
                                   Gio.DBusCallFlags.NONE, CALL_LIMIT, None)
 
+    def processes_of(self, part):
+        """The session's processes whose command line has this part; there is one at least."""
+        found = [pid for pid in processes.with_environment("XDG_RUNTIME_DIR", self.runtime_folder)
+                 if part in processes.command_line(pid)]
+        if not found:
+            raise AssertionError(f"nothing with {part} runs")
+        return found
+
     def kill(self, part):
         """Kills the session's processes whose command line has this part, as a crash would."""
-        victims = [pid for pid in processes.with_environment("XDG_RUNTIME_DIR", self.runtime_folder)
-                   if part in processes.command_line(pid)]
-        if not victims:
-            raise AssertionError(f"nothing with {part} runs")
+        victims = self.processes_of(part)
         for pid in victims:
             os.kill(pid, signal.SIGKILL)
         wait.until(lambda: not any(processes.command_line(pid) for pid in victims), 5.0,
@@ -135,11 +136,6 @@ class Session:
         """Every file below the home folder, settings and caches included."""
         return [os.path.join(folder, name)
                 for folder, _, names in os.walk(self.environment["HOME"]) for name in names]
-
-    def accessibility_is_on(self):
-        """What the desktop's switch for assistive technology says."""
-        return self.call("org.a11y.Bus", "/org/a11y/bus", "org.freedesktop.DBus.Properties", "Get",
-                         GLib.Variant("(ss)", ("org.a11y.Status", "IsEnabled"))).unpack()[0]
 
     def _make_environment(self):
         home = os.path.join(self.folder, "home")

@@ -43,6 +43,11 @@ class SignalTest(NoteCase):
                 self.assert_ended(program)
                 self.assertEqual(self.hands.down(), [])
 
+    def test_without_an_x_server_it_ends_with_one_plain_line(self):
+        program = Program(self.desktop, EXECUTABLE, environment={"DISPLAY": ":99999"})
+        self.assertEqual(program.wait_for_end(), 1)
+        self.assertEqual(len(program.output() + program.complaints()), 1)
+
 
 class LostServerTest(unittest.TestCase):
     """A server goes, and takes half the desktop along: nothing but the program is asked here."""

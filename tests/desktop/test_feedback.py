@@ -1,41 +1,19 @@
 """The feedback form, filled in with real keys and sent to a real server."""
 
 import base64
-import os
 import time
 
 import gi
-import wait
-from Xlib import X, Xatom, display
 
 gi.require_version("GdkPixbuf", "2.0")
 from gi.repository import GdkPixbuf, GLib  # After the version.
 
 from case import DesktopCase
+from sheet import Sheet
 from windows import Rect
 
 TITLE = "Feedback senden"
 BLUE, RED = (20, 60, 200), (200, 30, 20)
-
-
-class Sheet:
-    """A window of one colour; a floating one stays above all others."""
-
-    def __init__(self, desktop, colour, frame, floating=False):
-        self._display = display.Display(desktop.session.display)
-        red, green, blue = colour
-        self.window = self._display.screen().root.create_window(
-            frame.x, frame.y, frame.width, frame.height, 0, X.CopyFromParent,
-            background_pixel=red << 16 | green << 8 | blue, override_redirect=floating)
-        self.window.change_property(self._display.intern_atom("_NET_WM_PID"), Xatom.CARDINAL, 32,
-                                    [os.getpid()])
-        self.window.map()
-        self._display.sync()
-        wait.until(lambda: self.window.get_attributes().map_state == X.IsViewable, 5.0,
-                   "the sheet is there")
-
-    def close(self):
-        self._display.close()
 
 
 def inside(png, margin=30):

@@ -1,10 +1,7 @@
 """The menu of the icon, as a desktop's tray reads it over D-Bus."""
 
-import shutil
-
 import wait
 from case import DesktopCase
-from keys import RIGHT_BUTTON
 
 SEPARATOR = "-"
 ENTRIES = [
@@ -12,8 +9,6 @@ ENTRIES = [
     "Settings...", SEPARATOR, "Auf Updates prüfen …", "Feedback senden …", SEPARATOR,
     "Quit Corvane Quillet",
 ]
-# Which of them there is depends on the release.
-OLD_TRAYS = [["trayer", "--widthtype", "request"], ["stalonetray"]]
 GREY = {"Corvane Quillet", "Status: Ready"}
 
 
@@ -52,32 +47,3 @@ class MenuTest(DesktopCase):
         wait.throughout(lambda: program.bar_frame() is None, 0.6, "the bar is hidden")
         item.close()
         program.wait_for_bar()
-
-
-class LateTrayTest(DesktopCase):
-    """Desktops whose tray comes late, or comes back after a crash."""
-
-    with_tray = False
-
-    def test_an_old_tray_and_the_next_one_embed_the_icon(self):
-        command = next(tray for tray in OLD_TRAYS if shutil.which(tray[0]))
-        first = self.desktop.session.start(command)
-        self.addCleanup(self.desktop.session.end, first)
-        program = self.start_program()
-        program.wait_until(lambda: self.windows.embedded_of(program.pid), 15.0,
-                           "the icon is embedded")
-        first.kill()
-        trayer = self.desktop.session.start(command)
-        self.addCleanup(self.desktop.session.end, trayer)
-        program.wait_until(lambda: self.windows.embedded_of(program.pid), 15.0,
-                           "the icon is embedded in the next one too")
-        # The tray goes on moving its icons when it has taken one.
-        self.desktop.settled_picture()
-        icon = self.windows.embedded_of(program.pid)
-        self.hands.click(*icon.centre, button=RIGHT_BUTTON)
-        program.wait_until(
-            lambda: [frame for _, frame in self.windows.floating_of(program.pid)
-                     if frame.height > 150], 10.0, "the menu is open")
-        self.hands.press("Escape")
-        program.wait_until(lambda: not self.windows.floating_of(program.pid), 3.0,
-                           "the menu is closed")

@@ -38,12 +38,3 @@ class RestartTest(DesktopCase):
                 self.desktop.session.kill(part)
                 self.desktop.accessibility = wait.until(self.accessibility_bus, 5.0, "a bus is up")
                 self.play_in_new_note(program)
-
-    def test_the_window_manager(self):
-        program = self.start_program()
-        note = self.open_note("Only a few words.")
-        self.play_main_job(program, note)
-        self.desktop.session.kill("openbox")
-        self.desktop.session.start_window_manager()
-        self.desktop.focus(note)
-        self.play_main_job(program, note)

@@ -1,7 +1,7 @@
 """Every button of the bar and every heading, clicked over a field of a foreign application."""
 
 import bar
-from case import DesktopCase
+from case import DesktopCase, SCREEN
 from entries import Entries
 from keylog import KeyLog
 
@@ -49,6 +49,12 @@ class ShortcutsTest(DesktopCase):
                 self.hands.click(*row.centre)
                 log.wait_for([chord])
             program.wait_until(lambda: program.picker_frame() is None, 2.0, "the picker is closed")
-        self.assertEqual(program.bar_frame(), first)
         self.assert_at_work_in(entries)
+        nowhere = SCREEN.right - 5, SCREEN.bottom - 5
+        for dismiss in (lambda: self.hands.press("Escape"), lambda: self.hands.click(*nowhere)):
+            program.click("Heading")
+            program.wait_for_picker()
+            dismiss()
+            program.wait_until(lambda: program.picker_frame() is None, 2.0, "the picker is closed")
+        self.assertEqual(program.bar_frame(), first)
         self.assertEqual(program.output(), [])

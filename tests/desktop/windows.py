@@ -54,28 +54,8 @@ class Windows:
                 continue  # It went away between the two questions.
         return found
 
-    def embedded_of(self, pid):
-        """The frame of a mapped window of a process that stands inside another's, or None."""
-        waiting = [child for window in self._root.query_tree().children
-                   for child in self._children(window)]
-        while waiting:
-            window = waiting.pop()
-            try:
-                # A window manager's border holds managed windows: they are no embedded ones.
-                if (self._pid(window) == pid and window.get_attributes().map_state == X.IsViewable
-                        and window.id not in [client.id for client in self.clients()]):
-                    return self.frame(window)
-                waiting.extend(self._children(window))
-            except error.XError:
-                continue
-        return None
-
     def clients(self):
-        """The windows that the window manager handles, oldest first; without one, the mapped
-        windows that it would handle."""
-        if not self._cardinals(self._root, "_NET_SUPPORTING_WM_CHECK"):
-            return [window for window in self._root.query_tree().children
-                    if self._is_ordinary(window)]
+        """The windows that the window manager handles, oldest first."""
         return [self._display.create_resource_object("window", identifier)
                 for identifier in self._cardinals(self._root, "_NET_CLIENT_LIST")]
 
@@ -146,24 +126,6 @@ class Windows:
     def close(self, window):
         """What the close button of a window's border asks for."""
         self._message(window, "_NET_CLOSE_WINDOW", [X.CurrentTime, 2, 0, 0, 0])
-
-    def focus(self, window):
-        """Gives a window the keyboard where no window manager does so."""
-        window.set_input_focus(X.RevertToParent, X.CurrentTime)
-        self._display.sync()
-
-    def _is_ordinary(self, window):
-        try:
-            attributes = window.get_attributes()
-            return attributes.map_state == X.IsViewable and not attributes.override_redirect
-        except error.XError:
-            return False
-
-    def _children(self, window):
-        try:
-            return window.query_tree().children
-        except error.XError:
-            return []
 
     def _message(self, window, name, values):
         message = event.ClientMessage(window=window, client_type=self._display.intern_atom(name),

@@ -38,24 +38,6 @@ TEST_F(Diagnostics, SaysEverythingInOrder) {
                                      "  Bei Anmeldung starten: nein"));
 }
 
-TEST_F(Diagnostics, FollowsTheSettings) {
-    fake.accessibility.trusted = false;
-    settings.useAllApps = false;
-    settings.allowedApps = QStringList{};
-    settings.useKeyboardShortcut = true;
-    settings.shortcutModifiers = 0x180000;
-    settings.startAtLogin = true;
-    const QString report = text();
-    EXPECT_TRUE(report.endsWith(u"\nAccessibility erteilt: NEIN\n"
-                                "\n"
-                                "Einstellungen:\n"
-                                "  Für alle Apps aktiv: nein\n"
-                                "  Erlaubte Apps: 0\n"
-                                "  Trigger: Tastenkürzel (⌥⌘F)\n"
-                                "  Bei Anmeldung starten: ja"))
-        << report.toStdString();
-}
-
 TEST_F(Diagnostics, WritesTheDelayAsCDoesAndTheDateAsTheUserDoes) {
     settings.appearanceDelay = 0.25;
     const QString american = text(QLocale(QLocale::English, QLocale::UnitedStates));

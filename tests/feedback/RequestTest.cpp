@@ -2,7 +2,6 @@
 #include "feedback/Sending.h"
 
 #include <QRegularExpression>
-#include <QSet>
 
 namespace feedback {
 
@@ -17,32 +16,6 @@ QString header(const QJsonObject& request, const char* name) {
 }
 
 } // namespace
-
-TEST_F(Sending, WithoutPictureTheRecordIsJson) {
-    payload.text = QStringLiteral("  \"Grüße\"\r\n\t\\ 👩‍👩‍👧 \u0001\n ");
-    payload.appModule = QStringLiteral("Corvane Quillet – Hauptfenster");
-    payload.userName.clear();
-    ASSERT_EQ(send(endpoint()).id, u"r1");
-    const QJsonObject request = onlyRequest();
-    EXPECT_EQ(request[u"path"].toString(), u"/api/collections/feedback/records");
-    EXPECT_EQ(header(request, "content-type"), u"application/json");
-    const QJsonObject expected{
-        {QStringLiteral("text"), payload.text},
-        {QStringLiteral("user_name"), QString()},
-        {QStringLiteral("app_version"), payload.appVersion},
-        {QStringLiteral("os_version"), payload.osVersion},
-        {QStringLiteral("app_module"), payload.appModule},
-        {QStringLiteral("diagnose"), payload.diagnose},
-    };
-    EXPECT_EQ(request[u"json"].toObject(), expected);
-    const auto names = request[u"headers"].toObject().keys();
-    const QSet<QString> ofTheClient{
-        QStringLiteral("host"),           QStringLiteral("content-type"),
-        QStringLiteral("connection"),     QStringLiteral("content-length"),
-        QStringLiteral("user-agent"),     QStringLiteral("accept-encoding"),
-        QStringLiteral("accept-language")};
-    EXPECT_TRUE(QSet<QString>(names.begin(), names.end()).subtract(ofTheClient).isEmpty());
-}
 
 TEST_F(Sending, WithPictureTheRecordIsMultipartByteForByte) {
     payload.text = QStringLiteral("Grüße\r\n--\n\"x\"");

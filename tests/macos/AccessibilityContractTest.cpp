@@ -2,106 +2,11 @@
 #include "platform/linux/atspi/AtSpiFixture.h"
 #include "platform/macos/AxAccessibility.h"
 
-#include <memory>
-
 /// What the program above sees of the same field must not depend on the system below.
 namespace {
 
+using namespace Qt::StringLiterals;
 using platform::Rect;
-
-enum class Situation {
-    AWordIsSelected,
-    NothingIsSelected,
-    ThereAreNoBounds,
-    TheFieldHoldsAPassword,
-    TheFieldHoldsNoText,
-    NothingHasTheFocus,
-    TheApplicationHangs,
-};
-
-class AtSpiDesktop : public fakes::AtSpiFixture {
-public:
-    std::unique_ptr<platform::Accessibility> show(Situation situation) {
-        auto object = focusedText(QStringLiteral("one two"), {{4, 7}});
-        object.ranges.insert({4, 7}, {10, 20, 30, 40});
-        switch (situation) {
-        case Situation::AWordIsSelected:
-            break;
-        case Situation::NothingIsSelected:
-            object.selections.clear();
-            break;
-        case Situation::ThereAreNoBounds:
-            object.ranges.clear();
-            break;
-        case Situation::TheFieldHoldsAPassword:
-            object.role = static_cast<unsigned>(platform::Role::PasswordText);
-            break;
-        case Situation::TheFieldHoldsNoText:
-            object.hasText = false;
-            break;
-        case Situation::NothingHasTheFocus:
-            object.states = {platform::State::Editable};
-            break;
-        case Situation::TheApplicationHangs:
-            object.misbehaviours.insert(QStringLiteral("GetText"), fakes::silence);
-            limits.deadline = std::chrono::milliseconds(60);
-            break;
-        }
-        AtSpiFixture::show(object);
-        if (situation == Situation::NothingHasTheFocus) {
-            application.answerSearch({});
-        }
-        auto made =
-            std::make_unique<platform::AtSpiAccessibility>(windows, desktop.session(), limits);
-        EXPECT_TRUE(made->isProcessTrusted(platform::TrustPrompt::Hidden));
-        return made;
-    }
-
-    static platform::ProcessIdentifier process() { return QCoreApplication::applicationPid(); }
-
-private:
-    void TestBody() override {}
-};
-
-class AxDesktop {
-public:
-    static std::unique_ptr<platform::Accessibility> show(Situation situation) {
-        using namespace appleFake;
-        auto& world = accessibility();
-        world = {};
-        auto& application = world.elements[42];
-        auto& field = world.elements[7];
-        application["AXFocusedUIElement"] = element(7);
-        field["AXSelectedText"] = string(u"two");
-        field["AXSelectedTextRange"] = range({4, 3});
-        field["AXBoundsForRange"] = rectangle({{10, 20}, {30, 40}});
-        switch (situation) {
-        case Situation::AWordIsSelected:
-            break;
-        case Situation::NothingIsSelected:
-            field["AXSelectedText"] = string(u"");
-            break;
-        case Situation::ThereAreNoBounds:
-            field.erase("AXBoundsForRange");
-            break;
-        case Situation::TheFieldHoldsAPassword:
-            field["AXSubrole"] = string(u"AXSecureTextField");
-            break;
-        case Situation::TheFieldHoldsNoText:
-            field.clear();
-            break;
-        case Situation::NothingHasTheFocus:
-            application.clear();
-            break;
-        case Situation::TheApplicationHangs:
-            field["AXSelectedText"] = after(30, string(u"late"));
-            break;
-        }
-        return std::make_unique<platform::AxAccessibility>([&world] { return world.now; });
-    }
-
-    static platform::ProcessIdentifier process() { return 42; }
-};
 
 /// What the monitor makes of one poll: it looks for bounds when there is a text, and takes zero
 /// bounds and none for the same.
@@ -113,7 +18,7 @@ struct Seen {
     bool operator==(const Seen&) const = default;
 };
 
-Seen look(platform::Accessibility& accessibility, platform::ProcessIdentifier process) {
+Seen seenBy(platform::Accessibility& accessibility, platform::ProcessIdentifier process) {
     const auto element = accessibility.focusedElement(accessibility.applicationElement(process));
     Seen seen{element != nullptr, accessibility.selectedText(element), {}};
     if (seen.text && !seen.text->isEmpty()) {
@@ -124,29 +29,82 @@ Seen look(platform::Accessibility& accessibility, platform::ProcessIdentifier pr
     return seen;
 }
 
-} // namespace
+/// A field in which "two" is selected, in both worlds.
+class AccessibilityContract : public fakes::AtSpiFixture {
+protected:
+    using Attributes = std::map<std::string, appleFake::Answer>;
 
-template <typename Desktop>
-class AccessibilityContract : public testing::Test {};
+    Seen onLinux(const std::function<void(fakes::FakeObject&)>& change) {
+        auto object = focusedText(u"one two"_s, {{4, 7}});
+        object.ranges.insert({4, 7}, {10, 20, 30, 40});
+        change(object);
+        show(object);
+        if (object.states.size() < 2) {
+            application.answerSearch({});
+        }
+        start();
+        const Seen first = seenBy(*accessibility, QCoreApplication::applicationPid());
+        EXPECT_EQ(seenBy(*accessibility, QCoreApplication::applicationPid()), first) << "again";
+        return first;
+    }
 
-using Desktops = testing::Types<AtSpiDesktop, AxDesktop>;
-TYPED_TEST_SUITE(AccessibilityContract, Desktops);
+    static Seen onMac(const std::function<void(Attributes& field)>& change) {
+        using namespace appleFake;
+        auto& world = appleFake::accessibility();
+        world = {};
+        world.elements[42]["AXFocusedUIElement"] = element(7);
+        world.elements[7] = {{"AXSelectedText", string(u"two")},
+                             {"AXSelectedTextRange", range({4, 3})},
+                             {"AXBoundsForRange", rectangle({{10, 20}, {30, 40}})}};
+        change(world.elements[7]);
+        platform::AxAccessibility accessibility([&world] { return world.now; });
+        const Seen first = seenBy(accessibility, 42);
+        EXPECT_EQ(seenBy(accessibility, 42), first) << "again";
+        return first;
+    }
+};
 
-TYPED_TEST(AccessibilityContract, TheSameFieldIsSeenAlike) {
-    const std::vector<std::pair<Situation, Seen>> rows{
-        {Situation::AWordIsSelected, {true, QStringLiteral("two"), {10, 20, 30, 40}}},
-        {Situation::NothingIsSelected, {true, QStringLiteral(""), {}}},
-        {Situation::ThereAreNoBounds, {true, QStringLiteral("two"), {}}},
-        {Situation::TheFieldHoldsAPassword, {true, std::nullopt, {}}},
-        {Situation::TheFieldHoldsNoText, {true, std::nullopt, {}}},
-        {Situation::NothingHasTheFocus, {}},
-        {Situation::TheApplicationHangs, {}},
+TEST_F(AccessibilityContract, TheSameFieldIsSeenAlike) {
+    limits.deadline = std::chrono::milliseconds(400);
+    const struct {
+        const char* what;
+        std::function<void(fakes::FakeObject&)> linux;
+        std::function<void(Attributes&)> mac;
+        Seen expected;
+    } rows[]{
+        {"a word is selected", [](auto&) {}, [](auto&) {}, {true, u"two"_s, {10, 20, 30, 40}}},
+        {"nothing is selected",
+         [](auto& object) { object.selections.clear(); },
+         [](auto& field) { field["AXSelectedText"] = appleFake::string(u""); },
+         {true, u""_s, {}}},
+        {"there are no bounds",
+         [](auto& object) { object.ranges.clear(); },
+         [](auto& field) { field.erase("AXBoundsForRange"); },
+         {true, u"two"_s, {}}},
+        {"it holds a password",
+         [](auto& object) { object.role = static_cast<unsigned>(platform::Role::PasswordText); },
+         [](auto& field) { field["AXSubrole"] = appleFake::string(u"AXSecureTextField"); },
+         {true, std::nullopt, {}}},
+        {"it holds no text",
+         [](auto& object) { object.hasText = false; },
+         [](auto& field) { field.clear(); },
+         {true, std::nullopt, {}}},
+        {"nothing has the focus",
+         [](auto& object) { object.states = {platform::State::Editable}; },
+         [](auto&) { appleFake::accessibility().elements[42].clear(); },
+         {}},
+        {"its application hangs",
+         [](auto& object) { object.misbehaviours.insert(u"GetText"_s, fakes::silence); },
+         [](auto& field) {
+             field["AXSelectedText"] = appleFake::after(30, appleFake::string(u"late"));
+         },
+         {}},
     };
-    for (const auto& [situation, expected] : rows) {
-        TypeParam desktop;
-        const auto accessibility = desktop.show(situation);
-        EXPECT_EQ(look(*accessibility, desktop.process()), expected)
-            << "situation " << static_cast<int>(situation);
-        EXPECT_EQ(look(*accessibility, desktop.process()), expected) << "the second poll";
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        EXPECT_EQ(onLinux(row.linux), row.expected);
+        EXPECT_EQ(onMac(row.mac), row.expected);
     }
 }
+
+} // namespace

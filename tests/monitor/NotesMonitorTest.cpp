@@ -302,21 +302,3 @@ TEST_F(NotesMonitorTest, StoppingEndsTheTimersButLeavesTheShortcut) {
     EXPECT_EQ(reports.size(), 1U) << "a monitor that is gone reports nothing";
 }
 
-TEST_F(NotesMonitorTest, PollingRestsWhileAMenuIsOpenAndAPendingAppearanceDoesNot) {
-    select(QStringLiteral("word"));
-    pass(poll);
-    platform.runLoop.beginMenuTracking();
-    platform.accessibility.calls = 0;
-    pass(0.3);
-    EXPECT_EQ(platform.accessibility.calls, 0);
-    expectOneReport(true, onScreen);
-    platform.runLoop.endMenuTracking();
-}
-
-TEST_F(NotesMonitorTest, ItsOwnerMayEndItFromTheReport) {
-    settings.appearanceDelay = 0.0;
-    monitor->onSelectionChanged = [this](bool, const Rect&) { monitor.reset(); };
-    select(QStringLiteral("word"));
-    pass(1);
-    EXPECT_FALSE(monitor);
-}

@@ -95,23 +95,3 @@ TEST(DrawnSymbols, AreDrawnInsideTheirBoxAtEveryRatioAndWeight) {
     }
 }
 
-TEST(DrawnSymbols, StrokesOfTheBarBeginOnAPixel) {
-    DrawnSymbols symbols;
-    const auto columnInTheMiddle = [](const QImage& mask) {
-        std::vector<int> covered;
-        for (int y = 0; y < mask.height(); ++y) {
-            const int pixel = row(mask, y)[static_cast<std::size_t>(mask.width() / 2)];
-            if (pixel > 0) {
-                covered.push_back(pixel);
-            }
-        }
-        return covered;
-    };
-    const auto once = columnInTheMiddle(symbols.mask(u"minus"_s, barStyle, 1));
-    ASSERT_EQ(once.size(), 2U);
-    EXPECT_EQ(once[0], 255);
-    EXPECT_NEAR(once[1], 128, 16);
-    const auto twice = columnInTheMiddle(symbols.mask(u"minus"_s, barStyle, 2));
-    EXPECT_EQ(twice, std::vector<int>(3, 255));
-}
-

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMessageBox>
-#include <QPointer>
 #include <QPushButton>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -31,25 +30,6 @@ int runWith(platform::QtAlerts& alerts, const Alert& alert,
 
 } // namespace
 
-TEST(QtAlerts, ShowsWhatTheAlertSays) {
-    platform::QtAlerts alerts;
-    runWith(alerts, question, [](QMessageBox& box) {
-        EXPECT_EQ(box.icon(), QMessageBox::Warning);
-        EXPECT_EQ(box.text(), QStringLiteral("<b>Really &lt;b&gt;now&lt;/b&gt;?</b>"));
-        EXPECT_EQ(box.informativeText(), QStringLiteral("First.<br><br>Second &amp; last."));
-        ASSERT_EQ(box.buttons().size(), 2);
-        EXPECT_EQ(box.buttons().at(0)->text(), QStringLiteral("Open"));
-        EXPECT_EQ(box.buttons().at(1)->text(), QStringLiteral("Cancel"));
-        EXPECT_TRUE(box.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
-        box.reject();
-    });
-    runWith(alerts, {AlertStyle::Informational, {}, {}, {QStringLiteral("OK")}},
-            [](QMessageBox& box) {
-                EXPECT_EQ(box.icon(), QMessageBox::Information);
-                box.reject();
-            });
-}
-
 TEST(QtAlerts, AnswersWithThePressedButtonAndClosingCountsAsTheLastOne) {
     platform::QtAlerts alerts;
     const auto press = [](int button) {
@@ -71,12 +51,3 @@ TEST(QtAlerts, AnswersWithThePressedButtonAndClosingCountsAsTheLastOne) {
     EXPECT_EQ(runWith(alerts, notice, close), 1000);
 }
 
-TEST(QtAlerts, ShowsOneAlertAtATime) {
-    platform::QtAlerts alerts;
-    const int answer = runWith(alerts, question, [&](QMessageBox& box) {
-        EXPECT_EQ(alerts.runModal(question), 1001);
-        EXPECT_EQ(QApplication::activeModalWidget(), &box);
-        box.buttons().at(0)->click();
-    });
-    EXPECT_EQ(answer, 1000);
-}

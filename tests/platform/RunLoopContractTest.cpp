@@ -96,13 +96,6 @@ TYPED_TEST(RunLoopContract, OnlyTimersOfTheDefaultModeRestWhileAMenuIsOpen) {
     EXPECT_GE(this->calls.size(), 3U);
 }
 
-TYPED_TEST(RunLoopContract, HandsTheResultOfBackgroundWorkBack) {
-    auto& loop = this->time.loop;
-    loop.dispatchInBackground(this->note('w'), this->note('r'));
-    this->time.pass(0.1);
-    EXPECT_EQ(this->calls, "wr");
-}
-
 TEST(QtRunLoop, LetsBackgroundWorkEndBeforeTheProgramHasQuit) {
     platform::QtRunLoop loop;
     std::atomic_bool ended = false;

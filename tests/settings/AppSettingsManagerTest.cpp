@@ -131,18 +131,6 @@ TEST_F(AppSettingsManagerTest, NumbersConvertWhereTheyKeepTheirValueAndStringsNe
     EXPECT_EQ(startWith(allowedApps, QStringList{}).allowedApps.get(), QStringList{});
 }
 
-TEST_F(AppSettingsManagerTest, EachValueFallsBackOnItsOwn) {
-    defaults.values = {{useAllApps, QStringLiteral("no")},
-                       {appearanceDelay, 1.0},
-                       {shortcutKeyCode, QStringList{}},
-                       {shortcutModifiers, std::int64_t{0x40000}}};
-    const AppSettingsManager& store = start();
-    EXPECT_TRUE(store.useAllApps);
-    EXPECT_EQ(store.appearanceDelay.get(), 1.0);
-    EXPECT_EQ(store.shortcutKeyCode.get(), 3);
-    EXPECT_EQ(store.shortcutModifiers.get(), 0x40000U);
-}
-
 TEST_F(AppSettingsManagerDeathTest, AStoredKeyCodeOutside16BitsStopsTheProcess) {
     for (const std::int64_t code : {std::int64_t{-1}, std::int64_t{65536}}) {
         EXPECT_DEATH(startWith(shortcutKeyCode, code), "key code");

@@ -2,10 +2,7 @@
 
 #include "ui/LazyList.h"
 
-#include <QAbstractButton>
-#include <QLineEdit>
 #include <QScrollBar>
-#include <QTest>
 #include <gmock/gmock.h>
 
 namespace {

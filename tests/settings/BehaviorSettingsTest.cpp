@@ -83,14 +83,3 @@ TEST_F(Settings, TheSliderHas21ExactStopsForKeysAndPointer) {
     EXPECT_THAT(written, testing::ElementsAreArray(stops()));
 }
 
-TEST_F(Settings, AStoredDelayBesideTheStopsIsShownAndLeftAlone) {
-    for (const auto& [stored, text] :
-         {std::pair(0.37, "0.4"), std::pair(5.0, "5.0"), std::pair(-1.0, "-1.0")}) {
-        store_.appearanceDelay = stored;
-        open();
-        EXPECT_TRUE(shows(QStringLiteral("Delay before appearing: %1s").arg(QLatin1String(text))));
-        EXPECT_EQ(store_.appearanceDelay, stored);
-        window_.reset();
-    }
-}
-

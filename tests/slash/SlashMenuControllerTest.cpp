@@ -1,9 +1,10 @@
 #include "SlashMenuFixture.h"
 
+#include "ui/Theme.h"
+
 #include <QCoreApplication>
 #include <QInputMethodEvent>
 #include <QLineEdit>
-#include <QScrollArea>
 #include <gmock/gmock.h>
 
 using platform::Point;
@@ -66,6 +67,18 @@ TEST_F(SlashMenuController, ASearchIsTypedAndReturnChoosesTheHighlightedCommand)
     press(Qt::Key_Return, 1, Qt::ShiftModifier);
     EXPECT_THAT(chosen_, ElementsAre(SlashCommand::numberedList, SlashCommand::bulletList,
                                      SlashCommand::bulletList));
+}
+
+TEST_F(SlashMenuController, TheHighlightedRowIsOnTheAccentAsItIs) {
+    show();
+    press(Qt::Key_Down);
+    const QImage image = picture();
+    const auto ground = [&](SlashCommand command) {
+        return image.pixelColor(place(*row(command)).center() + QPoint(0, -18));
+    };
+    const QPalette palette = window().palette();
+    EXPECT_EQ(ground(SlashCommand::heading2), ui::color({ui::Color::Accent}, palette));
+    EXPECT_EQ(ground(SlashCommand::heading1), ui::color({ui::Color::WindowBackground}, palette));
 }
 
 TEST_F(SlashMenuController, EscapeHidesItAndItStartsAfresh) {

@@ -9,7 +9,6 @@
 #include "ui/Toggle.h"
 
 #include <QAbstractButton>
-#include <QAccessible>
 #include <QPointer>
 #include <QTest>
 #include <QWindow>
@@ -19,10 +18,6 @@
 namespace {
 
 using testing::ElementsAre;
-
-QAccessibleInterface& accessible(QWidget& widget) {
-    return *QAccessible::queryAccessibleInterface(&widget);
-}
 
 /// A window with one control in it.
 class Controls : public testing::Test {

@@ -5,7 +5,6 @@
 #include "ui/Modifiers.h"
 #include "ui/Stack.h"
 
-#include <QPointer>
 #include <QTest>
 #include <QWindow>
 #include <gtest/gtest.h>
@@ -29,17 +28,6 @@ protected:
     fakes::FakePlatform fake_;
 };
 
-TEST_F(Elements, WhatIsNeverPlacedIsDeletedWithAllThatItHolds) {
-    QPointer<QWidget> child;
-    {
-        ui::Element label = ui::text(QStringLiteral("a"));
-        child = &label.widget();
-        const ui::Element stack = ui::vstack({}, ui::hstack({}, std::move(label)));
-        ASSERT_TRUE(child);
-    }
-    EXPECT_FALSE(child);
-}
-
 TEST_F(Elements, ModifiersWorkFromTheInsideOut) {
     ui::HostingView host(
         ui::symbol(QStringLiteral("x"), {.pointSize = 10}) | ui::identifier(inner) |
@@ -53,22 +41,6 @@ TEST_F(Elements, ModifiersWorkFromTheInsideOut) {
     EXPECT_EQ(pixel(host, {23, 25}), QColor(Qt::red));
     const auto* symbol = host.findChild<QWidget*>(inner);
     EXPECT_EQ(QRect(symbol->mapTo(&host, QPoint()), symbol->size()), QRect(25, 25, 10, 10));
-}
-
-TEST_F(Elements, ASpacerTakesWhatIsLeftAndADividerFillsTheStack) {
-    ui::HostingView host(
-        ui::vstack(
-            {.spacing = 4},
-            ui::hstack({}, ui::spacer(),
-                       ui::symbol(QStringLiteral("a"), {.pointSize = 9}) | ui::identifier(inner)),
-            ui::divider(Qt::Horizontal) | ui::identifier(QStringLiteral("line"))) |
-        ui::padding({.horizontal = 8, .vertical = 8}) | ui::frame({.width = 100}));
-    host.resize(100, 30);
-    host.grab();
-    const auto* symbol = host.findChild<QWidget*>(inner);
-    const auto* line = host.findChild<QWidget*>(QStringLiteral("line"));
-    EXPECT_EQ(symbol->mapTo(&host, QPoint()), QPoint(100 - 8 - 9, 8));
-    EXPECT_EQ(QRect(line->mapTo(&host, QPoint()), line->size()), QRect(8, 21, 84, 1));
 }
 
 TEST_F(Elements, LabelsFollowThePalettePaleWhilePressedAndNameTheirButtonsForEveryone) {

@@ -3,9 +3,7 @@
 #include "fakes/FakePlatform.h"
 #include "ui/TitledWindow.h"
 
-#include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QTest>
 #include <gtest/gtest.h>
 

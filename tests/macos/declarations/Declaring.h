@@ -1,4 +1,5 @@
-// Lets the same declarations be read by clang, which checks nullability, and by GCC, which knows none.
+// Lets the same declarations be read by clang, which checks nullability, and by GCC, which knows
+// none.
 #pragma once
 
 #ifdef __clang__

@@ -67,35 +67,6 @@ TEST(AppcastReader, reads_everything_that_decides_and_everything_that_is_shown) 
     EXPECT_EQ(item.notesFormat, NotesFormat::PlainText);
 }
 
-TEST(AppcastReader, takes_the_version_from_wherever_it_stands_and_leaves_other_systems_out) {
-    struct Case {
-        const char* item;
-        const char* marketing; // null: left out
-        const char* build;
-    };
-    const Case cases[] = {
-        {R"(<s:version>1.1</s:version>)", "1.1", ""},
-        {R"(<enclosure s:version="12" s:shortVersionString="1.1"/>)", "1.1", "12"},
-        {R"(<enclosure s:os="macos" s:version="1.1"/>)", nullptr, ""},
-        {R"(<enclosure s:os="windows-x64" s:version="1.1"/>)", nullptr, ""},
-        {R"(<enclosure s:os="Linux-x86_64" s:version="1.1"/>)", "1.1", ""},
-        {R"(<enclosure s:os="macos" s:version="1.3"/><enclosure s:os="linux" s:version="1.2"/>
-            <enclosure s:version="1.1"/>)",
-         "1.2", ""},
-        {R"(<s:version>1.1</s:version><enclosure s:os="macos"/>)", nullptr, ""},
-        {R"(<title>No version</title>)", nullptr, ""},
-        {R"(<s:version> </s:version>)", nullptr, ""},
-    };
-    for (const Case& c : cases) {
-        const Items items = itemsOf(QByteArray("<item>") + c.item + "</item>");
-        ASSERT_EQ(items.size(), c.marketing == nullptr ? 0U : 1U) << c.item;
-        if (c.marketing != nullptr) {
-            EXPECT_EQ(items[0].version.marketing, QLatin1String(c.marketing)) << c.item;
-            EXPECT_EQ(items[0].version.build, QLatin1String(c.build)) << c.item;
-        }
-    }
-}
-
 TEST(AppcastReader, has_no_page_but_what_a_browser_shows) {
     for (const char* url :
          {"javascript:alert(1)", "file:///etc/passwd", "http:/etc/passwd", "",

@@ -2,7 +2,6 @@
 
 #include "fakes/FakePlatform.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTimeZone>
 #include <gtest/gtest.h>
@@ -158,34 +157,6 @@ TEST_F(AppcastUpdaterTest, always_answers_when_asked) {
     transport.answer(AppcastError{u"the server did not answer in time"_s});
     ASSERT_NE(presenter.last<UpdateCheckFailed>(), nullptr);
     EXPECT_EQ(presenter.last<UpdateCheckFailed>()->reason, u"the server did not answer in time"_s);
-}
-
-TEST_F(AppcastUpdaterTest, remembers_nothing_from_a_file_that_is_not_its_own) {
-    QDir(folder.path()).mkpath(u"state"_s);
-    const QString path = folder.filePath(u"state/updates.json"_s);
-    for (const char* contents :
-         {"", "[]", "{", "\xff", "null",
-          R"({"lastCheck": 5, "rolloutGroup": 7, "skippedVersion": "1.1"})",
-          R"({"lastCheck": "today", "rolloutGroup": -1, "skippedVersion": {"version": 1}})",
-          R"({"lastCheck": null, "rolloutGroup": 1.5, "skippedVersion": {"build": "1"}})"}) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(contents);
-        file.close();
-        UpdateRecord record(path);
-        EXPECT_FALSE(record.lastCheck()) << contents;
-        EXPECT_FALSE(record.skipped()) << contents;
-        EXPECT_GE(record.rolloutGroup(), 0) << contents;
-        EXPECT_LT(record.rolloutGroup(), rolloutGroups) << contents;
-
-        record.skip({u"1.1"_s, u"9"_s});
-        record.setLastCheck(QDateTime({2026, 11, 23}, {12, 0}, QTimeZone::utc()));
-        const UpdateRecord next(path);
-        EXPECT_EQ(next.lastCheck(), record.lastCheck());
-        EXPECT_EQ(next.rolloutGroup(), record.rolloutGroup());
-        ASSERT_TRUE(next.skipped());
-        EXPECT_EQ(next.skipped()->marketing + next.skipped()->build, u"1.19"_s);
-    }
 }
 
 } // namespace

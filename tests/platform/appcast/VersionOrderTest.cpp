@@ -45,18 +45,6 @@ TEST(VersionOrder, each_of_a_row_is_the_same_and_older_than_the_next_row) {
     }
 }
 
-TEST(VersionOrder, builds_only_tell_the_same_version_apart) {
-    const ProgramVersion installed{u"1.0.2"_s, u"7"_s};
-    const auto compared = [&](const char* marketing, const char* build) {
-        return compareVersions({QLatin1String(marketing), QLatin1String(build)}, installed);
-    };
-    EXPECT_EQ(compared("1.0.2", "8"), std::weak_ordering::greater);
-    EXPECT_EQ(compared("1.0.2", ""), std::weak_ordering::equivalent);
-    EXPECT_EQ(compared("1.0.2", "6"), std::weak_ordering::less);
-    EXPECT_EQ(compared("1.0.3", "1"), std::weak_ordering::greater);
-    EXPECT_EQ(compared("1.0.1", "9"), std::weak_ordering::less);
-}
-
 } // namespace
 
 } // namespace platform

@@ -1,6 +1,5 @@
 #include "platform/linux/LinuxSystemInfo.h"
 
-#include <QProcess>
 #include <gtest/gtest.h>
 
 namespace platform {

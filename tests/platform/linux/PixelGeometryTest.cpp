@@ -49,15 +49,6 @@ TEST(PixelGeometry, EachScreenKeepsItsCornerAndHasARatioOfItsOwn) {
     EXPECT_EQ(geometry.screenNearest({9000, -50}), &geometry.screens()[1]);
 }
 
-TEST(PixelGeometry, ThePrimaryScreenIsTheOriginWhereverItStands) {
-    const PixelGeometry geometry(
-        {screenAt({0, 0, 1000, 800}), screenAt({1000, 200, 1200, 600}, 1, true)});
-    expectRect(geometry.globalPoints({1000, 200, 1200, 600}), {0, 0, 1200, 600});
-    // Left of and above the primary screen: negative x, y beyond its height.
-    expectRect(geometry.globalPoints({0, 0, 1000, 800}), {-1000, 0, 1000, 800});
-    EXPECT_EQ(geometry.pixels({-990, 780, 100, 10}), (PixelRect{10, 10, 100, 10}));
-}
-
 TEST(PixelGeometry, NumbersThatAreNoneAndHugeOnesStayWithinX) {
     constexpr double nan = std::numeric_limits<double>::quiet_NaN();
     constexpr double infinite = std::numeric_limits<double>::infinity();

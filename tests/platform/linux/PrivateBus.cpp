@@ -61,9 +61,4 @@ QDBusConnection PrivateBus::connect() {
     return QDBusConnection::connectToBus(address_, name);
 }
 
-void PrivateBus::disconnect(const QDBusConnection& connection) {
-    connections_.removeOne(connection.name());
-    QDBusConnection::disconnectFromBus(connection.name());
-}
-
 } // namespace fakes

@@ -16,7 +16,6 @@ public:
 
     /// A further connection to this bus; closed with this object at the latest.
     QDBusConnection connect();
-    void disconnect(const QDBusConnection& connection);
 
     /// A paused bus takes messages and passes none on.
     void setPaused(bool paused);

@@ -104,11 +104,7 @@ enum : NSEventModifierFlags {
 @end
 
 // appkit/nswindow/orderingmode
-enum NSWindowOrderingMode : NSInteger {
-    NSWindowAbove = 1,
-    NSWindowBelow = -1,
-    NSWindowOut = 0,
-};
+enum NSWindowOrderingMode : NSInteger { NSWindowAbove = 1, NSWindowBelow = -1, NSWindowOut = 0 };
 
 // appkit/nstrackingarea, options-swift.struct
 using NSTrackingAreaOptions = NSUInteger;
@@ -143,9 +139,7 @@ enum : NSTrackingAreaOptions {
 @end
 
 // appkit/nsvisualeffectview, material-swift.enum, blendingmode-swift.enum, state-swift.enum
-enum NSVisualEffectMaterial : NSInteger {
-    NSVisualEffectMaterialHUDWindow = 13,
-};
+enum NSVisualEffectMaterial : NSInteger { NSVisualEffectMaterialHUDWindow = 13 };
 enum NSVisualEffectBlendingMode : NSInteger {
     NSVisualEffectBlendingModeBehindWindow,
     NSVisualEffectBlendingModeWithinWindow,
@@ -163,9 +157,7 @@ enum NSVisualEffectState : NSInteger {
 
 // appkit/nswindow/stylemask-swift.struct
 using NSWindowStyleMask = NSUInteger;
-enum : NSWindowStyleMask {
-    NSWindowStyleMaskBorderless = 0,
-};
+enum : NSWindowStyleMask { NSWindowStyleMaskBorderless = 0 };
 
 // appkit/nswindow/collectionbehavior-swift.struct
 using NSWindowCollectionBehavior = NSUInteger;
@@ -201,9 +193,7 @@ static const NSWindowLevel NSFloatingWindowLevel = 3;
 @end
 
 // appkit/nscolorpanel, mode-swift.enum
-enum NSColorPanelMode : NSInteger {
-    NSColorPanelModeColorList = 5,
-};
+enum NSColorPanelMode : NSInteger { NSColorPanelModeColorList = 5 };
 @interface NSColorPanel : NSPanel
 @property(class, readonly, strong) NSColorPanel* sharedColorPanel;
 @property NSColorPanelMode mode;
@@ -234,19 +224,17 @@ extern "C" NSColorSpaceName NSDeviceRGBColorSpace;
 @interface NSImageRep : NSObject
 @end
 @interface NSBitmapImageRep : NSImageRep
-- (nullable instancetype)
-    initWithBitmapDataPlanes:(unsigned char* _Nullable* _Nullable)planes
-                  pixelsWide:(NSInteger)width
-                  pixelsHigh:(NSInteger)height
-               bitsPerSample:(NSInteger)bps
-             samplesPerPixel:(NSInteger)spp
-                    hasAlpha:(BOOL)alpha
-                    isPlanar:(BOOL)isPlanar
-              colorSpaceName:(NSColorSpaceName)colorSpaceName
-                 bytesPerRow:(NSInteger)rBytes
-                bitsPerPixel:(NSInteger)pBits;
-@property(nullable, readonly) unsigned char* bitmapData
-    __attribute__((objc_returns_inner_pointer));
+- (nullable instancetype)initWithBitmapDataPlanes:(unsigned char* _Nullable* _Nullable)planes
+                                       pixelsWide:(NSInteger)width
+                                       pixelsHigh:(NSInteger)height
+                                    bitsPerSample:(NSInteger)bps
+                                  samplesPerPixel:(NSInteger)spp
+                                         hasAlpha:(BOOL)alpha
+                                         isPlanar:(BOOL)isPlanar
+                                   colorSpaceName:(NSColorSpaceName)colorSpaceName
+                                      bytesPerRow:(NSInteger)rBytes
+                                     bitsPerPixel:(NSInteger)pBits;
+@property(nullable, readonly) unsigned char* bitmapData __attribute__((objc_returns_inner_pointer));
 @property(readonly) NSInteger bytesPerRow;
 @end
 

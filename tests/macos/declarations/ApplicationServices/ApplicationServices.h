@@ -46,8 +46,8 @@ extern CFStringRef kAXTrustedCheckOptionPrompt;
 CFTypeID AXUIElementGetTypeID();
 AXUIElementRef AXUIElementCreateApplication(pid_t pid);
 
-// applicationservices/1459345-axuielementsetmessagingtimeout: of this reference only; 0 gives it the
-// process's own, long limit back
+// applicationservices/1459345-axuielementsetmessagingtimeout: of this reference only; 0 gives it
+// the process's own, long limit back
 AXError AXUIElementSetMessagingTimeout(AXUIElementRef element, float timeoutInSeconds);
 
 // applicationservices/1462085-axuielementcopyattributevalue

@@ -59,18 +59,19 @@ CFStringRef __CFStringMakeConstantString(const char* text);
 #define CFSTR(text) __CFStringMakeConstantString(text)
 #endif
 
-// corefoundation/cfdictionarykeycallbacks, cfdictionaryvaluecallbacks and their constants: opaque here
+// corefoundation/cfdictionarykeycallbacks, cfdictionaryvaluecallbacks and their constants: opaque
+// here
 struct CFDictionaryKeyCallBacks;
 struct CFDictionaryValueCallBacks;
 extern const CFDictionaryKeyCallBacks kCFTypeDictionaryKeyCallBacks;
 extern const CFDictionaryValueCallBacks kCFTypeDictionaryValueCallBacks;
 
 // corefoundation/cfdictionarycreate(_:_:_:_:_:_:)
-CFDictionaryRef _Nullable CFDictionaryCreate(CFAllocatorRef _Nullable allocator,
-                                   const void* _Nullable* _Nullable keys,
-                                   const void* _Nullable* _Nullable values, CFIndex numValues,
-                                   const CFDictionaryKeyCallBacks* _Nullable keyCallBacks,
-                                   const CFDictionaryValueCallBacks* _Nullable valueCallBacks);
+CFDictionaryRef _Nullable CFDictionaryCreate(
+    CFAllocatorRef _Nullable allocator, const void* _Nullable* _Nullable keys,
+    const void* _Nullable* _Nullable values, CFIndex numValues,
+    const CFDictionaryKeyCallBacks* _Nullable keyCallBacks,
+    const CFDictionaryValueCallBacks* _Nullable valueCallBacks);
 
 // corefoundation/cfrunloop, cfrunloopsource, cfrunloopmode
 using CFRunLoopRef = struct __CFRunLoop*;
@@ -92,8 +93,9 @@ struct CFMessagePortContext {
     void (*_Nullable release)(const void* _Nullable info);
     CFStringRef _Nullable (*_Nullable copyDescription)(const void* _Nullable info);
 };
-using CFMessagePortCallBack = CFDataRef _Nullable (*)(CFMessagePortRef _Nullable local, SInt32 msgid,
-                                                      CFDataRef _Nullable data, void* _Nullable info);
+using CFMessagePortCallBack = CFDataRef _Nullable (*)(CFMessagePortRef _Nullable local,
+                                                      SInt32 msgid, CFDataRef _Nullable data,
+                                                      void* _Nullable info);
 
 // corefoundation/cfmessageportcreatelocal(_:_:_:_:_:), cfmessageportcreateremote(_:_:)
 CFMessagePortRef _Nullable CFMessagePortCreateLocal(CFAllocatorRef _Nullable allocator,
@@ -106,7 +108,8 @@ CFMessagePortRef _Nullable CFMessagePortCreateRemote(CFAllocatorRef _Nullable al
 
 // corefoundation/cfmessageportcreaterunloopsource(_:_:_:), cfmessageportinvalidate(_:)
 CFRunLoopSourceRef _Nullable CFMessagePortCreateRunLoopSource(CFAllocatorRef _Nullable allocator,
-                                                              CFMessagePortRef local, CFIndex order);
+                                                              CFMessagePortRef local,
+                                                              CFIndex order);
 void CFMessagePortInvalidate(CFMessagePortRef ms);
 
 // corefoundation/cfmessageportsendrequest(_:_:_:_:_:_:_:), 1561514-cfmessageportsendrequest-error-c

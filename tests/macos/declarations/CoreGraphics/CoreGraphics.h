@@ -73,13 +73,9 @@ extern const CGRect CGRectNull;
 // coregraphics/cgwindowid, cgwindowlistoption, cgwindowimageoption
 using CGWindowID = std::uint32_t;
 using CGWindowListOption = std::uint32_t;
-enum : CGWindowListOption {
-    kCGWindowListOptionOnScreenBelowWindow = 1U << 2U,
-};
+enum : CGWindowListOption { kCGWindowListOptionOnScreenBelowWindow = 1U << 2U };
 using CGWindowImageOption = std::uint32_t;
-enum : CGWindowImageOption {
-    kCGWindowImageBoundsIgnoreFraming = 1U << 0U,
-};
+enum : CGWindowImageOption { kCGWindowImageBoundsIgnoreFraming = 1U << 0U };
 
 // coregraphics/cgimage, cgcontext, cgcolorspace
 using CGImageRef = struct CGImage*;
@@ -95,18 +91,16 @@ extern const CFStringRef kCGColorSpaceSRGB;
 CGColorSpaceRef _Nullable CGColorSpaceCreateWithName(CFStringRef _Nullable name);
 
 // coregraphics/cgimagealphainfo, cgbitmapinfo
-enum CGImageAlphaInfo : std::uint32_t {
-    kCGImageAlphaPremultipliedFirst = 2,
-};
+enum CGImageAlphaInfo : std::uint32_t { kCGImageAlphaPremultipliedFirst = 2 };
 using CGBitmapInfo = std::uint32_t;
-enum : CGBitmapInfo {
-    kCGBitmapByteOrder32Little = 2U << 12U,
-};
+enum : CGBitmapInfo { kCGBitmapByteOrder32Little = 2U << 12U };
 
 // coregraphics/cgcontext/init(data:width:height:bitspercomponent:bytesperrow:space:bitmapinfo:)
-CGContextRef _Nullable CGBitmapContextCreate(void* _Nullable data, std::size_t width, std::size_t height,
-                                             std::size_t bitsPerComponent, std::size_t bytesPerRow,
-                                             CGColorSpaceRef _Nullable space, std::uint32_t bitmapInfo);
+CGContextRef _Nullable CGBitmapContextCreate(void* _Nullable data, std::size_t width,
+                                             std::size_t height, std::size_t bitsPerComponent,
+                                             std::size_t bytesPerRow,
+                                             CGColorSpaceRef _Nullable space,
+                                             std::uint32_t bitmapInfo);
 
 // coregraphics/1454845-cgcontextdrawimage
 void CGContextDrawImage(CGContextRef _Nullable c, CGRect rect, CGImageRef _Nullable image);

@@ -55,7 +55,7 @@ extern "C" const NSRect NSZeroRect;
 
 // objectivec/nsobject-c.class
 __attribute__((objc_root_class))
-@interface NSObject <NSObject>
+@interface NSObject<NSObject>
 + (instancetype)alloc;
 - (instancetype)init;
 + (Class)class;
@@ -98,11 +98,7 @@ extern "C" NSString* NSUserName(void);
 @interface NSValue : NSObject <NSCopying>
 @property(readonly) const char* objCType __attribute__((objc_returns_inner_pointer));
 @end
-enum NSComparisonResult : NSInteger {
-    NSOrderedAscending = -1,
-    NSOrderedSame,
-    NSOrderedDescending,
-};
+enum NSComparisonResult : NSInteger { NSOrderedAscending = -1, NSOrderedSame, NSOrderedDescending };
 @interface NSNumber : NSValue
 + (NSNumber*)numberWithBool:(BOOL)value;
 + (NSNumber*)numberWithLongLong:(long long)value;
@@ -120,7 +116,7 @@ enum NSComparisonResult : NSInteger {
 @property(readonly) NSUInteger count;
 - (ObjectType)objectAtIndex:(NSUInteger)index;
 @end
-@interface NSMutableArray<ObjectType> : NSArray<ObjectType>
+@interface NSMutableArray<ObjectType> : NSArray <ObjectType>
 + (instancetype)arrayWithCapacity:(NSUInteger)numItems;
 - (void)addObject:(ObjectType)anObject;
 @end

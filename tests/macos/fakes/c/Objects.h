@@ -14,9 +14,7 @@ enum Type : CFTypeID {
     Boolean_,
     Dictionary,
     Element,
-    Value,
-    Event,
-    EventSource
+    Value
 };
 
 struct Object {

@@ -1,5 +1,4 @@
 #include "platform/linux/freedesktop/ApplicationIdentity.h"
-#include "platform/linux/freedesktop/AccessibilitySettings.h"
 #include "platform/linux/freedesktop/RunningProcess.h"
 
 #include <gtest/gtest.h>
@@ -120,17 +119,6 @@ TEST(DesktopEntryTable, OfOneIdTheFirstEntryCountsAndAHiddenOneHidesTheRest) {
     EXPECT_EQ(table.withId(u"mail.desktop"_s)->name, u"the user's"_s);
     EXPECT_EQ(table.withId(QString()), nullptr);
     EXPECT_EQ(desktopFileId(u"vendor/tools/mail.desktop"_s), u"vendor-tools-mail"_s);
-}
-
-TEST(AccessibilitySettings, OnlyTheRunningDesktopsOwnAreOffered) {
-    const DesktopEntryTable table(
-        {entry("gnome-universal-access-panel", "NoDisplay=true\nOnlyShowIn=GNOME;\n"),
-         entry("xfce4-accessibility-settings", "OnlyShowIn=XFCE;\nExec=no-such-program-here\n")});
-    const auto* found = accessibilitySettings(table, {u"XFCE"_s});
-    ASSERT_NE(found, nullptr);
-    EXPECT_EQ(found->id, u"xfce4-accessibility-settings"_s);
-    EXPECT_FALSE(startDetached(*found));
-    EXPECT_EQ(accessibilitySettings(table, {u"KDE"_s}), nullptr);
 }
 
 } // namespace platform

@@ -2,7 +2,6 @@
 
 #include "ConfigFolder.h"
 
-#include <QFileInfo>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -10,7 +9,6 @@
 #include <csignal>
 #include <limits>
 #include <sys/resource.h>
-#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 using platform::DefaultsValue;
@@ -28,12 +26,6 @@ class JsonUserDefaultsTest : public testing::Test {
 protected:
     fakes::ConfigFolder folder;
     QString path = folder.path(settings);
-
-    ino_t inode() const {
-        struct stat status {};
-        EXPECT_EQ(::stat(QFile::encodeName(path).constData(), &status), 0);
-        return status.st_ino;
-    }
 
     /// What is logged while `action` runs, which must be one line or none.
     static std::string logged(const std::function<void()>& action) {

@@ -1,10 +1,8 @@
 #include "platform/linux/freedesktop/BusProgramInstance.h"
 
 #include "PrivateBus.h"
-#include "Responder.h"
 #include "fakes/Eventually.h"
 
-#include <QTimer>
 #include <gtest/gtest.h>
 
 #include <future>
@@ -50,20 +48,6 @@ protected:
 
 } // namespace
 
-TEST_F(BusProgramInstanceTest, WhatEachStartAsksForReachesTheProgramOnceItListens) {
-    BusProgramInstance first(bus.connect(), token);
-    ASSERT_EQ(first.claim(Kind::Settings), Claim::First);
-    EXPECT_EQ(outcome(start(Kind::Quit)), Claim::HandedOver);
-    const auto handler = record(first);
-    EXPECT_TRUE(requests.empty()) << "told before the caller of setRequestHandler was ready";
-    ASSERT_TRUE(eventually([&] { return requests.size() == 2; }));
-    EXPECT_EQ(outcome(start(Kind::Activate)), Claim::HandedOver);
-    ASSERT_TRUE(eventually([&] { return requests.size() == 3; }));
-    EXPECT_EQ(requests,
-              (std::vector<InstanceRequest>{
-                  {Kind::Settings, token}, {Kind::Quit, token}, {Kind::Activate, token}}));
-}
-
 TEST_F(BusProgramInstanceTest, AProgramThatHangsIsGivenUpInTime) {
     BusProgramInstance hanging(bus.connect(), {});
     ASSERT_EQ(hanging.claim(Kind::Activate), Claim::First);
@@ -75,21 +59,5 @@ TEST_F(BusProgramInstanceTest, AProgramThatHangsIsGivenUpInTime) {
     EXPECT_EQ(testing::internal::GetCapturedStdout(),
               "Quillet: the program runs already, but does not answer: "
               "org.freedesktop.DBus.Error.NoReply\n");
-}
-
-TEST_F(BusProgramInstanceTest, TakesOverFromAProgramThatEndsWithoutAnAnswer) {
-    auto owner = bus.connect();
-    std::optional<fakes::Responder> ending;
-    ending.emplace(owner, [&](const QDBusMessage&) {
-        QTimer::singleShot(0, qApp, [&] {
-            ending.reset();
-            bus.disconnect(owner);
-            // Whoever holds a connection keeps it open.
-            owner = QDBusConnection(u"no such connection"_s);
-        });
-        return QDBusMessage();
-    });
-    ASSERT_TRUE(owner.registerService(programName));
-    EXPECT_EQ(outcome(start(Kind::Activate)), Claim::First);
 }
 

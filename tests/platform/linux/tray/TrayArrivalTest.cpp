@@ -40,15 +40,6 @@ struct Desktop {
 
 } // namespace
 
-TEST(TrayArrival, AHostGetsTheIconAtOnceHoweverLateItComes) {
-    EXPECT_EQ(Desktop(true, true).icons, 1);
-    Desktop late(false, false);
-    late.runLoop.advance(3600);
-    EXPECT_EQ(late.icons, 0);
-    late.statusNotifier.set(true);
-    EXPECT_EQ(late.icons, 1);
-}
-
 TEST(TrayArrival, SaysOnceThatThereIsNoTray) {
     testing::internal::CaptureStdout();
     Desktop without(false, false);
