@@ -34,6 +34,8 @@ QNetworkRequest makeRequest(const QUrl& url, std::chrono::milliseconds timeout) 
     request.setTransferTimeout(static_cast<int>(timeout.count()));
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
                          QNetworkRequest::ManualRedirectPolicy);
+    // The answer's time begins with the last of them.
+    request.setAttribute(QNetworkRequest::EmitAllUploadProgressSignalsAttribute, true);
     // The body is in memory already.
     request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
     // Two records have nothing to do with each other.
@@ -74,7 +76,10 @@ QString decoded(const QByteArray& body) {
     return decoder.hasError() ? QString() : text;
 }
 
-QString recordIdentifier(QNetworkReply& reply) {
+QString recordIdentifier(QNetworkReply& reply, BoundedAnswer& answer) {
+    if (answer.isTooLarge()) {
+        throw FeedbackError(FeedbackError::InvalidResponse{});
+    }
     const QVariant status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute);
     const int statusCode = status.toInt();
     if (failed(reply, statusCode)) {
@@ -83,7 +88,7 @@ QString recordIdentifier(QNetworkReply& reply) {
     if (!status.isValid()) {
         throw FeedbackError(FeedbackError::InvalidResponse{});
     }
-    const QByteArray body = reply.readAll();
+    const QByteArray body = answer.body();
     if (statusCode < 200 || statusCode > 299) {
         throw FeedbackError(FeedbackError::HttpError{statusCode, decoded(body)});
     }
@@ -123,9 +128,11 @@ QCoro::Task<QString> FeedbackService::send(Payload payload) const {
     // Told the length, the client does not gather the body once more before it sends it.
     request.setHeader(QNetworkRequest::ContentLengthHeader, body.size());
     OnceReadBody once(std::move(body));
+    const qsizetype size = once.bytesAvailable();
     const OwnedReply reply(connection_.session().post(request, &once));
+    BoundedAnswer answer(*reply, size, connection_.answer);
     co_await reply.get();
-    co_return recordIdentifier(*reply);
+    co_return recordIdentifier(*reply, answer);
 }
 
 QString FeedbackService::appVersion() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "feedback/BoundedAnswer.h"
 #include "feedback/FeedbackDefaults.h"
 
 #include <QByteArray>
@@ -20,6 +21,7 @@ struct FeedbackConnection {
     std::function<QNetworkAccessManager&()> session = sharedSession;
     /// How long a request may make no progress at all, connecting included.
     std::chrono::milliseconds timeout = std::chrono::seconds(60);
+    BoundedAnswer::Limits answer = {};
 };
 
 /// Delivers one piece of the user's feedback to the feedback server and composes the texts that

@@ -64,6 +64,14 @@ TEST_F(Sending, AConnectionThatDropsOrStaysSilentIsAnErrorAndTheRecordIsNotSentA
               QNetworkReply::OperationCanceledError);
 }
 
+TEST_F(Sending, AnAnswerWithoutEndIsGivenUp) {
+    EXPECT_EQ(send(endpoint({.end = QStringLiteral("endless")})).error,
+              FeedbackError::Case(InvalidResponse{}));
+    EXPECT_LT(server.sent(), 30e6);
+    limits.time = std::chrono::milliseconds(300);
+    EXPECT_EQ(send(endpoint({.end = QStringLiteral("drip")})).text, u"Socket operation timed out");
+}
+
 TEST_F(Sending, ACertificateThatDoesNotHoldEndsTheConnectionBeforeAnythingIsSent) {
     for (const char* port : {"other", "stranger"}) {
         const Outcome result = send(server.address(port));

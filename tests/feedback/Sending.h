@@ -56,7 +56,7 @@ protected:
     FeedbackService service(const QString& endpoint,
                             std::chrono::milliseconds timeout = std::chrono::seconds(10)) {
         return FeedbackService(endpoint,
-                               {[this]() -> QNetworkAccessManager& { return session; }, timeout});
+                               {[this]() -> QNetworkAccessManager& { return session; }, timeout, limits});
     }
 
     Outcome send(const QString& endpoint,
@@ -74,6 +74,7 @@ protected:
     static inline std::unique_ptr<fakes::HttpsServer> shared;
     fakes::HttpsServer& server = *shared;
     QNetworkAccessManager session;
+    BoundedAnswer::Limits limits;
     FeedbackService::Payload payload{
         QStringLiteral("Hallo"),   QStringLiteral("anna"),       QStringLiteral("1.0.2 (7)"),
         QStringLiteral("macOS 12.0.0"), QStringLiteral("Fenster"), QStringLiteral("eins\nzwei"),
